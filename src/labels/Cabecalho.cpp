@@ -1,0 +1,46 @@
+#include "labels/Cabecalho.h"
+
+#include "labels/LabelText.h"
+#include "workbench/FrmPadrao.h"
+
+namespace etiquetas {
+
+namespace {
+
+constexpr TextView rotulo = u"Pedido: ";
+// From the top of the page; no top margin is added.
+constexpr float altura_mm = 6;
+
+void cabecalho_oculta(FrmPadrao& form) {
+    PrintSurface& surface = form.platform.surface;
+    useFont(surface, {face::franklin_medium, true, 10});
+    const Text pedido = Text(rotulo) + form.txtarquivo.text;
+    printAt(surface, {form.Margem_oculta1 + 3.0F, altura_mm}, pedido);
+    printAt(surface, {form.Margem_oculta11 + 6.0F, altura_mm}, pedido);
+}
+
+// Word and number are two texts here, 3 mm apart: the number overprints the end of the word.
+void cabecalho_fc(FrmPadrao& form) {
+    PrintSurface& surface = form.platform.surface;
+    useFont(surface, {face::franklin_medium, true, 12});
+    for (const float margem : {form.Mx4045_1, form.Mx4045_2}) {
+        printAt(surface, {margem + 3.0F, altura_mm}, rotulo);
+        printAt(surface, {margem + 6.0F, altura_mm}, form.txtarquivo.text);
+    }
+}
+
+} // namespace
+
+void Imprime_CabecAlho(FrmPadrao& form, TextView tipo) {
+    const Text kind = upperCase(tipo);
+    if (kind == u"OCULTA") {
+        cabecalho_oculta(form);
+    } else if (kind == u"FC") {
+        cabecalho_fc(form);
+    } else {
+        return;
+    }
+    form.platform.surface.NewPage();
+}
+
+} // namespace etiquetas

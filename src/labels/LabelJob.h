@@ -1,0 +1,51 @@
+#pragma once
+
+#include "base/Text.h"
+#include "workbench/FrmPadrao.h"
+
+#include <array>
+#include <span>
+
+namespace etiquetas {
+
+// What every label job sets up before a renderer runs.
+
+/// A margin: the key of the settings file, the variable that it fills, and what the variable takes
+/// where there is no settings file. Millimetres.
+struct Margin {
+    TextView key;
+    float FrmPadrao::*variable;
+    float default_value;
+};
+
+/// Margins of the 40 by 20 mm labels: left of column 1, left of column 2, top.
+inline constexpr std::array<Margin, 3> margens_oculta{{
+    {u"Margem_oculta1", &FrmPadrao::Margem_oculta1, 3.0F},
+    {u"Margem_oculta11", &FrmPadrao::Margem_oculta11, 45.0F},
+    {u"Margem_oculta2", &FrmPadrao::Margem_oculta2, 3.0F},
+}};
+
+/// A page size in twips (1,440 to the inch).
+struct PageSize {
+    int width;
+    int height;
+};
+
+/// A strip of two 40 by 20 mm labels, 158.75 by 21.17 mm with its edges.
+inline constexpr PageSize pagina_oculta{9000, 1200};
+
+/// Makes the printer of that device name the one that the next job goes to; the name must match
+/// exactly. False where there is none, and the current printer stays.
+bool SelecionaImpressora(FrmPadrao& form, TextView name);
+
+/// Sets the surface to millimetres and to a user-defined page. A step that fails is passed over.
+void prepara_superficie(FrmPadrao& form, const PageSize& page);
+
+/// Reads margins from the settings file; one whose text is empty or no number stays as it was.
+/// Where the file does not exist all take their defaults.
+void le_margens(FrmPadrao& form, std::span<const Margin> margins);
+
+/// Sets `marca_logo` from the banner of the order: "L" for LUMIRA, else "B".
+void escolhe_marca(FrmPadrao& form);
+
+} // namespace etiquetas

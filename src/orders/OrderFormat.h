@@ -1,0 +1,82 @@
+#pragma once
+
+#include "base/Text.h"
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace etiquetas {
+
+// The buyer's order files: one record a line, fields separated by ";" without any quoting, counted
+// from 0. The number of fields of a line, its width, tells its layout.
+
+/// One line of an order, cut into fields. The views live as long as the line does.
+class OrderLine {
+  public:
+    explicit OrderLine(TextView line) : fields_(split(line, u';')) {}
+
+    [[nodiscard]] std::size_t width() const { return fields_.size(); }
+    /// The field as it stands; fails with a subscript out of range where the line is too short.
+    [[nodiscard]] TextView operator[](std::size_t field) const;
+
+  private:
+    std::vector<TextView> fields_;
+};
+
+/// Where the three parts of an item key stand in a line of one file kind.
+struct ItemKeyFields {
+    std::size_t code;
+    std::size_t code_length; // characters of the code field that count
+    std::size_t description;
+    std::size_t colour;
+};
+
+/// The key that an item is chosen by: "code | description | colour", the fields as they stand.
+/// Nothing when the line is too short for it.
+[[nodiscard]] std::optional<Text> itemKey(const OrderLine& line, const ItemKeyFields& fields);
+
+/// The three parts of a chosen item key, trimmed. A typed text may lack parts; they are empty then.
+struct ItemKey {
+    explicit ItemKey(TextView key);
+
+    TextView code;
+    TextView description;
+    TextView colour;
+};
+
+/// Characters of the master code that are the product code.
+inline constexpr std::size_t product_code_length = 7;
+
+/// Fields that stand in the same place in every box line.
+namespace box_field {
+inline constexpr std::size_t quantity = 0;
+inline constexpr std::size_t colour = 1;
+inline constexpr std::size_t size = 2;
+inline constexpr std::size_t description = 4;
+inline constexpr std::size_t barcode = 5;
+inline constexpr std::size_t master = 6;
+} // namespace box_field
+
+/// Fields that stand in the same place in every accessory line.
+namespace accessory_field {
+inline constexpr std::size_t colour = 1;
+inline constexpr std::size_t description = 3;
+inline constexpr std::size_t barcode = 6;
+inline constexpr std::size_t master = 7;
+} // namespace accessory_field
+
+inline constexpr ItemKeyFields box_key{box_field::master, product_code_length,
+                                       box_field::description, box_field::colour};
+inline constexpr ItemKeyFields accessory_key{accessory_field::master, product_code_length,
+                                             accessory_field::description, accessory_field::colour};
+inline constexpr ItemKeyFields corrugated_key{6, TextView::npos, 5, 4};
+
+/// The lines of a file, ended by CR LF, CR or LF, the last one with or without an end.
+[[nodiscard]] std::vector<TextView> linesOf(TextView file);
+
+/// The line with its runs of blanks reduced: five to one, four to one, three to one, two to one
+/// and two to one again, each over the whole line. A longer run may keep more than one.
+[[nodiscard]] Text withReducedBlanks(TextView line);
+
+} // namespace etiquetas

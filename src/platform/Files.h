@@ -1,0 +1,53 @@
+#pragma once
+
+#include "base/Text.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace etiquetas {
+
+/// The file system. Paths are texts in the machine's own form.
+class Files {
+  public:
+    virtual ~Files() = default;
+
+    /// The folder that holds the program, without a separator at its end unless it is a root.
+    [[nodiscard]] virtual Text programFolder() const = 0;
+    /// The character between the parts of a path.
+    [[nodiscard]] virtual char16_t separator() const = 0;
+
+    [[nodiscard]] virtual bool fileExists(TextView path) const = 0;
+    /// False for a blank name.
+    [[nodiscard]] virtual bool folderExists(TextView path) const = 0;
+    /// Names of the files in a folder, in any order; none where it can't be read.
+    [[nodiscard]] virtual std::vector<Text> filesIn(TextView folder) const = 0;
+
+    virtual void makeFolder(TextView path) = 0;
+    virtual void deleteFile(TextView path) = 0;
+
+    /// All bytes of a file; fails where it can't be read.
+    [[nodiscard]] virtual std::string read(TextView path) const = 0;
+    /// Gives a file new bytes in one step, so that a power cut leaves the old ones or the new ones;
+    /// creates it where it is missing, and fails where it can't be written.
+    virtual void replace(TextView path, std::string_view bytes) = 0;
+
+  protected:
+    Files() = default;
+    Files(const Files&) = default;
+    Files(Files&&) = default;
+    Files& operator=(const Files&) = default;
+    Files& operator=(Files&&) = default;
+};
+
+/// The path of a name in a folder: one separator between them, none added where the folder's text
+/// ends in one.
+[[nodiscard]] Text joined(const Files& files, TextView folder, TextView name);
+
+/// The path of the file with this name in the folder, found without regard to the case of the
+/// name; the exact name wins. Empty where there is none.
+[[nodiscard]] std::optional<Text> findFile(const Files& files, TextView folder, TextView name);
+
+} // namespace etiquetas

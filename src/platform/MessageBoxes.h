@@ -1,0 +1,37 @@
+#pragma once
+
+#include "base/Text.h"
+
+#include <cstdint>
+
+namespace etiquetas {
+
+enum class Buttons : std::uint8_t { ok, yes_no };
+enum class Symbol : std::uint8_t { none, stop, question, exclamation };
+enum class Answer : std::uint8_t { ok, yes, no };
+
+/// What a message box asks or tells. An empty title stands for the program's own.
+struct Message {
+    Text text;
+    Symbol symbol = Symbol::none;
+    Buttons buttons = Buttons::ok;
+    Text title;
+};
+
+/// Message boxes, which hold the program until the operator has answered.
+class MessageBoxes {
+  public:
+    virtual ~MessageBoxes() = default;
+
+    /// Shows the message. A box that is closed without an answer counts as OK or No.
+    virtual Answer show(const Message& message) = 0;
+
+  protected:
+    MessageBoxes() = default;
+    MessageBoxes(const MessageBoxes&) = default;
+    MessageBoxes(MessageBoxes&&) = default;
+    MessageBoxes& operator=(const MessageBoxes&) = default;
+    MessageBoxes& operator=(MessageBoxes&&) = default;
+};
+
+} // namespace etiquetas

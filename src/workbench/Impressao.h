@@ -1,0 +1,13 @@
+#pragma once
+
+namespace etiquetas {
+
+struct FrmPadrao;
+
+/// The Print command: checks the fields for the label kind, prints the item as one job, asks
+/// whether the labels came out well and, on yes, takes the item off its list and loads the next
+/// one. A step that fails is passed over in silence; what the operator is to know is asked or told
+/// in a message box.
+void cmd_printacessorio_click(FrmPadrao& form);
+
+} // namespace etiquetas

@@ -1,0 +1,262 @@
+#include "workbench/Pedido.h"
+
+#include "base/CodePage.h"
+#include "base/Numbers.h"
+#include "config/Settings.h"
+#include "orders/GradeFc.h"
+#include "orders/ItemSlots.h"
+#include "orders/OrderFormat.h"
+#include "platform/Files.h"
+#include "platform/MessageBoxes.h"
+#include "workbench/FrmPadrao.h"
+
+#include <algorithm>
+#include <array>
+#include <unordered_set>
+
+namespace etiquetas {
+
+namespace {
+
+// What sets the files of one family of labels apart.
+struct Family {
+    TextView name; // in `TipoArquivo`
+    TextView word; // in the file name
+    ItemKeyFields key;
+    ListField FrmPadrao::*items;
+    Panel FrmPadrao::*shown;
+    Panel FrmPadrao::*hidden;
+    TextView caption; // of `Frame1`; empty leaves it
+    /// Loads the chosen item; a family without one only lists its items.
+    void (*load)(FrmPadrao&);
+};
+
+void loadBoxItem(FrmPadrao& form) {
+    carrega_gradeFc(form);
+    oculta_objetos(form);
+}
+
+constexpr std::array<Family, 3> families{{
+    {u"A", u"FRENTE", box_key, &FrmPadrao::cmb_referencia, &FrmPadrao::Frame1, &FrmPadrao::Frame3,
+     u"Caixa / Oculta", loadBoxItem},
+    {u"B", u"CORRUGADO", corrugated_key, &FrmPadrao::cmb_referencia1, &FrmPadrao::Frame3,
+     &FrmPadrao::Frame1, u"", nullptr},
+    {u"C", u"ACESSORIO", accessory_key, &FrmPadrao::cmb_referencia, &FrmPadrao::Frame1,
+     &FrmPadrao::Frame3, u"Acessório", nullptr},
+}};
+
+struct KindFamily {
+    TextView kind;
+    TextView family;
+};
+
+constexpr std::array<KindFamily, 4> family_of_kind{{
+    {tipo::frente_de_caixa, u"A"},
+    {tipo::oculta, u"A"},
+    {tipo::corrugado, u"B"},
+    {tipo::acessorio, u"C"},
+}};
+
+// An unknown kind keeps the family of the last known one, and nothing can be printed.
+void chooseFamily(FrmPadrao& form) {
+    const auto* const found =
+        std::find_if(family_of_kind.begin(), family_of_kind.end(),
+                     [&](const KindFamily& row) { return row.kind == form.cmbtipo.text; });
+    if (found == family_of_kind.end()) {
+        form.cmd_printacessorio.visible = false;
+    } else {
+        form.TipoArquivo = found->family;
+    }
+}
+
+// Nothing until a known kind has been chosen once.
+const Family* currentFamily(const FrmPadrao& form) {
+    const auto* const found =
+        std::find_if(families.begin(), families.end(),
+                     [&](const Family& family) { return family.name == form.TipoArquivo; });
+    return found == families.end() ? nullptr : found;
+}
+
+void ensureFolder(FrmPadrao& form) {
+    const Files& files = form.platform.files;
+    if (!files.folderExists(form.lblpath.caption)) {
+        form.lblpath.caption = files.programFolder();
+    }
+}
+
+void listFiles(FrmPadrao& form) {
+    const Text pattern = u"*" + Text(trimmed(form.txtarquivo.text)) + u"*.txt";
+    auto names = form.platform.files.filesIn(form.lblpath.caption);
+    std::erase_if(names, [&](const Text& name) { return !matchesPattern(name, pattern); });
+    std::sort(names.begin(), names.end(), sortsBefore);
+    form.filelist.entries = std::move(names);
+}
+
+// The upper-cased name of the first listed file of the family; empty where there is none.
+Text firstOfFamily(const FrmPadrao& form, const Family* family) {
+    for (const Text& listed : form.filelist.entries) {
+        Text name = upperCase(listed);
+        if (family != nullptr && name.find(family->word) != Text::npos) {
+            return name;
+        }
+    }
+    return {};
+}
+
+void reportNotFound(FrmPadrao& form, Text message) {
+    form.platform.messages.show({std::move(message)});
+    form.cmd_printacessorio.visible = false;
+}
+
+void showPanels(FrmPadrao& form, const Family& family) {
+    (form.*family.shown).visible = true;
+    (form.*family.hidden).visible = false;
+    if (!family.caption.empty()) {
+        form.Frame1.caption = family.caption;
+    }
+    form.LBLBRISAKO.visible = false;
+}
+
+void warn(FrmPadrao& form, Text message) {
+    form.platform.messages.show(
+        {.text = std::move(message), .symbol = Symbol::exclamation, .title = u"ATENÇÃO!!!"});
+}
+
+// The bytes of the order's file as text; empty, and reported, where there is nothing to read. The
+// name was upper-cased, and reaches the file whatever the case of its own.
+Text readOrder(FrmPadrao& form, TextView name) {
+    const Files& files = form.platform.files;
+    const auto path = findFile(files, form.lblpath.caption, name);
+    if (!path) {
+        warn(form, u"O arquivo não existe!");
+        return {};
+    }
+    Text order = fromCodePage1252(files.read(*path));
+    if (order.empty()) {
+        warn(form, u"O arquivo está em branco!");
+    }
+    return order;
+}
+
+void showBanner(FrmPadrao& form, TextView header) {
+    const Text upper = upperCase(header);
+    const bool brisako =
+        upper.find(u"BRISA KO") != Text::npos || upper.find(u"BRISAKO") != Text::npos;
+    form.LBLBRISAKO.caption = brisako ? u"BRISA KO" : u"LUMIRA";
+    form.LBLBRISAKO.visible = true;
+}
+
+// Takes the lines of an order to `List1` and its item keys to the item list, each key once.
+class OrderTaker {
+  public:
+    OrderTaker(FrmPadrao& form, const Family& family)
+        : form_(form), family_(family), items_(form.*family.items) {}
+
+    void take(TextView order) {
+        form_.List1.clear();
+        items_.clear();
+        for (const TextView line : linesOf(order)) {
+            if (counter_ == 0) {
+                showBanner(form_, line);
+            }
+            ++counter_;
+            if (counter_ > 1 && !isBlank(line)) {
+                takeItemLine(line);
+            }
+        }
+    }
+
+    /// Numbers of the lines that were too short for their item key, the header being line 1.
+    [[nodiscard]] const std::vector<std::int32_t>& shortLines() const { return short_lines_; }
+
+  private:
+    void takeItemLine(TextView line) {
+        Text reduced = withReducedBlanks(line);
+        const OrderLine fields(reduced);
+        if (!isNumeric(fields[0])) {
+            return;
+        }
+        const auto key = itemKey(fields, family_.key);
+        if (!key) {
+            short_lines_.push_back(counter_);
+            return;
+        }
+        if (known_keys_.insert(*key).second) {
+            items_.entries.push_back(*key);
+        }
+        form_.List1.entries.push_back(std::move(reduced));
+    }
+
+    FrmPadrao& form_;
+    const Family& family_;
+    ListField& items_;
+    std::int32_t counter_ = 0;
+    std::unordered_set<Text> known_keys_;
+    std::vector<std::int32_t> short_lines_;
+};
+
+void loadFirstItem(FrmPadrao& form, const Family& family) {
+    ListField& items = form.*family.items;
+    if (items.entries.empty()) {
+        return;
+    }
+    items.choose(0);
+    if (family.load != nullptr && !isBlank(items.text)) {
+        family.load(form);
+    }
+}
+
+void lockGrades(FrmPadrao& form) {
+    form.txtgrade1.locked = true;
+    form.txtgrade2.locked = true;
+    form.txttotgrade.locked = true;
+}
+
+void reportShortLines(FrmPadrao& form, TextView name, const std::vector<std::int32_t>& lines) {
+    if (lines.empty()) {
+        return;
+    }
+    constexpr std::size_t most_named = 10;
+    Text numbers;
+    for (std::size_t i = 0; i < std::min(lines.size(), most_named); ++i) {
+        numbers.append(i == 0 ? u"" : u", ").append(numberText(lines[i]));
+    }
+    numbers.append(lines.size() > most_named ? u"..." : u"");
+    form.platform.messages.show({.text = u"Há linhas incompletas no arquivo " + Text(name) +
+                                         u", que não foram carregadas. Linhas: " + numbers,
+                                 .symbol = Symbol::exclamation});
+}
+
+} // namespace
+
+void carrega_pedido(FrmPadrao& form) {
+    form.cmd_printacessorio.visible = true;
+    chooseFamily(form);
+    ensureFolder(form);
+    listFiles(form);
+    if (form.filelist.entries.empty()) {
+        reportNotFound(form, u"O Pedido " + form.txtarquivo.text + u", não foi localizado em " +
+                                 form.lblpath.caption);
+        return;
+    }
+    const Family* const family = currentFamily(form);
+    const Text name = firstOfFamily(form, family);
+    if (name.empty()) {
+        reportNotFound(form, u"O arquivo não foi localizado... ");
+        return;
+    }
+    Files& files = form.platform.files;
+    GravaIni(files, secao::config, u"arquivo", form.txtarquivo.text, caminho_ini(files));
+    showPanels(form, *family);
+    const Text order = readOrder(form, name);
+    if (order.empty()) {
+        return;
+    }
+    OrderTaker taker(form, *family);
+    taker.take(order);
+    loadFirstItem(form, *family);
+    lockGrades(form);
+    reportShortLines(form, name, taker.shortLines());
+}
+
+} // namespace etiquetas
