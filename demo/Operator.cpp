@@ -1,0 +1,134 @@
+#include "demo/Operator.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QtTest/QTest>
+
+#include <algorithm>
+
+namespace etiquetas {
+
+namespace {
+
+// The part of a widget that a mouse reaches.
+QWidget& clickable(QWidget& widget) {
+    auto* const list = qobject_cast<QComboBox*>(&widget);
+    return list != nullptr ? *list->lineEdit() : widget;
+}
+
+void settle() {
+    QCoreApplication::processEvents();
+}
+
+// A window system gives the focus back to the window behind a closed box; headless, nobody does.
+void bringToFront(QWidget& window) {
+    if (!window.isActiveWindow()) {
+        window.activateWindow();
+        settle();
+    }
+}
+
+} // namespace
+
+Operator::Operator() {
+    constexpr int glance_ms = 5;
+    QObject::connect(&watch_, &QTimer::timeout, &watch_, [this] { answer(); });
+    watch_.start(glance_ms);
+}
+
+void Operator::sitAt(Desktop& desktop) {
+    desktop_ = &desktop;
+    bringToFront(desktop.window());
+}
+
+void Operator::choose(const QString& list, int position) {
+    click(list);
+    auto& box = widget<QComboBox>(list);
+    while (box.currentIndex() != position && box.count() > position) {
+        press(box.currentIndex() < position ? Qt::Key_Down : Qt::Key_Up);
+    }
+}
+
+void Operator::type(const QString& field, const QString& text) {
+    click(field);
+    press(Qt::Key_End);
+    press(Qt::Key_Home, Qt::ShiftModifier);
+    keys(text);
+}
+
+void Operator::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    bringToFront(desktop_->window());
+    QTest::keyClick(&focusedWidget(), key, modifiers);
+    settle();
+}
+
+void Operator::pressMnemonic(Qt::Key letter) {
+    constexpr int letting_go_ms = 200; // the toolkit shows a command pressed for 100 ms
+    press(letter, Qt::AltModifier);
+    QTest::qWait(letting_go_ms);
+}
+
+void Operator::keys(const QString& text) {
+    bringToFront(desktop_->window());
+    QTest::keyClicks(&focusedWidget(), text);
+    settle();
+}
+
+void Operator::click(const QString& name) const {
+    bringToFront(desktop_->window());
+    QTest::mouseClick(&clickable(widget<QWidget>(name)), Qt::LeftButton);
+    settle();
+}
+
+void Operator::doubleClick(const QString& name) const {
+    bringToFront(desktop_->window());
+    QTest::mouseDClick(&clickable(widget<QWidget>(name)), Qt::LeftButton, Qt::NoModifier,
+                       QPoint(4, 4));
+    settle();
+}
+
+QString Operator::focused() const {
+    return focusedWidget().objectName();
+}
+
+QString Operator::text(const QString& name) const {
+    const auto& found = widget<QWidget>(name);
+    if (const auto* const list = qobject_cast<const QComboBox*>(&found)) {
+        return list->currentText();
+    }
+    if (const auto* const edit = qobject_cast<const QLineEdit*>(&found)) {
+        return edit->text();
+    }
+    const auto* const label = qobject_cast<const QLabel*>(&found);
+    return label != nullptr ? label->text() : QString();
+}
+
+void Operator::answer() {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) {
+        return;
+    }
+    look_();
+    boxes_.push_back({box->windowTitle(), box->text()});
+    const auto refused = std::find_if(refused_.begin(), refused_.end(), [&](const QString& text) {
+        return box->text().contains(text);
+    });
+    if (refused != refused_.end()) {
+        refused_.erase(refused);
+        box->button(QMessageBox::No)->click();
+    } else {
+        box->defaultButton() != nullptr ? box->defaultButton()->click()
+                                        : box->buttons().first()->click();
+    }
+}
+
+QWidget& Operator::focusedWidget() const {
+    QWidget* const focused = desktop_->window().focusWidget();
+    return focused != nullptr ? *focused : desktop_->window();
+}
+
+} // namespace etiquetas

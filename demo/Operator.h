@@ -1,0 +1,72 @@
+#pragma once
+
+#include "desktop/Desktop.h"
+
+#include <QString>
+#include <QTimer>
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+namespace etiquetas {
+
+/// A message box as the operator saw it.
+struct SeenBox {
+    QString title;
+    QString text;
+};
+
+/// Works a real Workbench window as an operator does: by keys and clicks on its widgets, and by
+/// answers to its message boxes.
+class Operator {
+  public:
+    /// Starts answering message boxes at once, so that one can watch over a start-up.
+    Operator();
+
+    /// Takes a seat at the window, which has been shown.
+    void sitAt(Desktop& desktop);
+
+    /// Chooses from a list by its arrow keys, after a click into it.
+    void choose(const QString& list, int position);
+    /// Clicks into a field, replaces its text by typing, and stays there.
+    void type(const QString& field, const QString& text);
+    /// Presses one key where the focus is.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Presses Alt and the letter of a command, and waits for the command to let go.
+    void pressMnemonic(Qt::Key letter);
+    /// Types characters where the focus is.
+    void keys(const QString& text);
+    /// Clicks on a widget with the mouse.
+    void click(const QString& name) const;
+    void doubleClick(const QString& name) const;
+
+    /// The widget that has the focus, by its name.
+    [[nodiscard]] QString focused() const;
+    /// The text of a field, list or label.
+    [[nodiscard]] QString text(const QString& name) const;
+    /// The widget of that name and type; it must be there.
+    template <typename Widget>
+    [[nodiscard]] Widget& widget(const QString& name) const {
+        return *desktop_->window().findChild<Widget*>(name);
+    }
+
+    /// Answers the next boxes with No that hold this text; any other box gets OK or Yes.
+    void answerNoTo(const QString& text) { refused_.push_back(text); }
+    /// What runs while a box stands, before it is answered.
+    void beforeAnswer(std::function<void()> look) { look_ = std::move(look); }
+    /// The boxes since the last call.
+    std::vector<SeenBox> takeBoxes() { return std::exchange(boxes_, {}); }
+
+  private:
+    void answer();
+    [[nodiscard]] QWidget& focusedWidget() const;
+
+    Desktop* desktop_ = nullptr;
+    QTimer watch_;
+    std::vector<SeenBox> boxes_;
+    std::vector<QString> refused_;
+    std::function<void()> look_ = [] {};
+};
+
+} // namespace etiquetas

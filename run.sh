@@ -1,0 +1,44 @@
+#!/usr/bin/env bash
+# Builds the program and starts it in a folder of its own, laid out like an installation. Without a
+# display it prints an order through the window all the same, headless, and leaves the labels and
+# pictures of the window in build/demo.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+
+# Lays out an installation: the program, the logos, the photographs and the sample orders. A newer
+# file that is there already stays; settings that are there are never touched.
+lay_out() {
+    mkdir -p "$1/imagens"
+    cp --update --preserve=timestamps --remove-destination build/run/bin/etiquetas "$1/"
+    cp --update --preserve=timestamps samples/*.jpg samples/*.txt "$1/"
+    cp --update --preserve=timestamps samples/imagens/*.jpg "$1/imagens/"
+    [ -e "$1/Varesko.ini" ] || cp samples/Varesko.ini "$1/"
+}
+
+scripts/install_packages.sh run
+
+echo "== Building the program"
+cmake --preset run
+cmake --build --preset run --parallel "$(nproc)"
+
+echo "== Laying out build/instalacao"
+lay_out build/instalacao
+
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    echo "== Opening the Workbench in build/instalacao"
+    exec build/instalacao/etiquetas
+fi
+
+echo "== No display: printing an order through the window, headless, into build/demo"
+rm -rf build/demo
+lay_out build/demo/instalacao
+QT_QPA_PLATFORM=offscreen build/run/bin/etiquetas_demo build/demo/instalacao build/demo
+
+echo "== Turning the label pages into pictures, as a printer of 203 dpi sees them"
+for job in build/demo/*.pdf; do
+    [ -e "$job" ] || { echo "The demonstration left no label pages in build/demo" >&2 && exit 1; }
+    pdftoppm -r 203 -png "$job" "${job%.pdf}"
+done
+
+echo "== Written:"
+find build/demo -maxdepth 1 -type f | sort

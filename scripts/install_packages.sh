@@ -1,0 +1,58 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are missing for a purpose: "run" (build the program and run it)
+# or "test" (build and run the tests as well). With nothing missing it only looks, and is quick.
+set -euo pipefail
+
+case "${1:-}" in
+    run | test) purpose=$1 ;;
+    *)
+        echo "usage: ${0##*/} run|test" >&2
+        exit 2
+        ;;
+esac
+
+packages=(
+    g++ cmake ninja-build ccache                           # build
+    qt6-base-dev                                           # window and printing
+    fonts-crosextra-carlito fonts-liberation fonts-open-sans # faces of the labels
+    poppler-utils                                          # label pages as pictures
+)
+if [ "$purpose" = test ]; then
+    packages+=(
+        libgtest-dev libgmock-dev # test framework
+        zbar-tools mupdf-tools    # readers of the printed bars and pages
+        xvfb xauth                # a display for the real window
+    )
+elif [ -n "${WAYLAND_DISPLAY:-}" ] && [ -z "${DISPLAY:-}" ]; then
+    packages+=(qt6-wayland) # a desktop without X11
+fi
+
+if ! command -v dpkg-query > /dev/null; then
+    echo "This is no Debian system; the packages must be there already: ${packages[*]}" >&2
+    exit 0
+fi
+
+# The query fails when a package is unknown, and still lists those that are installed.
+installed=$(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "${packages[@]}" 2> /dev/null || true)
+missing=()
+for package in "${packages[@]}"; do
+    grep -qxF "$package installed" <<< "$installed" || missing+=("$package")
+done
+if [ ${#missing[@]} -eq 0 ]; then
+    echo "== Packages: all installed"
+    exit 0
+fi
+
+echo "== Packages: installing ${missing[*]}"
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo > /dev/null; then
+        echo "Neither root nor sudo. As root: apt-get install --no-install-recommends ${missing[*]}" >&2
+        exit 1
+    fi
+    as_root=(sudo)
+fi
+apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=300)
+"${apt[@]}" update < /dev/null
+"${apt[@]}" install -y --no-install-recommends "${missing[@]}" < /dev/null
+echo "== Packages: installed"

@@ -1,0 +1,49 @@
+#include "desktop/Desktop.h"
+
+#include "desktop/QtText.h"
+#include "workbench/Inicio.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace etiquetas {
+
+Desktop::Desktop(const QString& folder)
+    : files_(folder), surface_(printers_, folder),
+      form_({printers_, surface_, messages_, pictures_, files_, focus_, pointer_, process_}),
+      bridge_(form_, window_, focus_,
+              [this](const QString& description) { endOnFailure(description); }) {
+    messages_.standOver(&window_, [this] { bridge_.pushAll(); });
+    process_.onEnd([this] { end(0); });
+    window_.onClose([this] {
+        bridge_.run([this] { FrmPadrao_unload(form_); });
+        end(exit_code_.value_or(0));
+    });
+    window_.onResize([this] { bridge_.run([this] { FrmPadrao_resize(form_); }); });
+    surface_.onJobWritten([this](const QString& path) {
+        window_.tell(
+            QStringLiteral("Etiquetas gravadas em %1").arg(QDir::toNativeSeparators(path)));
+    });
+}
+
+void Desktop::start() {
+    bridge_.run([this] { FrmPadrao_load(form_); });
+    if (!exit_code_) {
+        window_.show();
+    }
+}
+
+void Desktop::end(int exit_code) {
+    bridge_.stop();
+    surface_.dropJob();
+    exit_code_ = exit_code;
+    QCoreApplication::exit(exit_code);
+}
+
+void Desktop::endOnFailure(const QString& description) {
+    surface_.dropJob();
+    messages_.show({.text = toText(description), .symbol = Symbol::stop});
+    end(1);
+}
+
+} // namespace etiquetas

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "desktop/EventBridge.h"
+#include "desktop/QtDesk.h"
+#include "desktop/QtFiles.h"
+#include "desktop/QtMessageBoxes.h"
+#include "desktop/QtPictures.h"
+#include "desktop/QtPrintSurface.h"
+#include "desktop/QtPrinters.h"
+#include "desktop/WorkbenchWindow.h"
+#include "workbench/FrmPadrao.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace etiquetas {
+
+/// The desktop program: the Workbench on the machine that it runs on. A `QApplication` must exist.
+class Desktop {
+  public:
+    /// Works in a folder, that of the program: settings, logos, photographs, written jobs.
+    explicit Desktop(const QString& folder);
+
+    /// Runs the start-up and shows the window.
+    void start();
+
+    [[nodiscard]] WorkbenchWindow& window() { return window_; }
+    [[nodiscard]] const FrmPadrao& form() const { return form_; }
+
+    /// The exit code, once the program has ended: 0, or 1 when a failure ended it.
+    [[nodiscard]] std::optional<int> exitCode() const { return exit_code_; }
+
+  private:
+    void end(int exit_code);
+    void endOnFailure(const QString& description);
+
+    QtFiles files_;
+    QtPictures pictures_;
+    QtPrinters printers_;
+    QtPrintSurface surface_;
+    QtMessageBoxes messages_;
+    QtFocus focus_;
+    QtPointer pointer_;
+    QtProcess process_;
+    FrmPadrao form_;
+    WorkbenchWindow window_;
+    EventBridge bridge_;
+    std::optional<int> exit_code_;
+};
+
+} // namespace etiquetas

@@ -1,0 +1,276 @@
+#include "desktop/EventBridge.h"
+
+#include "base/Failure.h"
+#include "desktop/FieldTable.h"
+#include "desktop/QtDesk.h"
+#include "desktop/QtText.h"
+#include "workbench/Campos.h"
+#include "workbench/FrmPadrao.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace etiquetas {
+
+namespace {
+
+constexpr int twips_per_pixel = 15;
+
+// Key code of the keys that walk through the fields, 0 for any other.
+KeyCode walkingKey(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return key::enter;
+    case Qt::Key_Up:
+        return key::arrow_up;
+    case Qt::Key_Down:
+        return key::arrow_down;
+    default:
+        return key::none;
+    }
+}
+
+// Character of a key, 0 when it writes none. The toolkit gives a text to keys, too, that only move
+// or delete.
+KeyCode characterOf(const QKeyEvent& event) {
+    if (walkingKey(event) == key::enter) {
+        return key::enter;
+    }
+    const bool writes = event.key() != Qt::Key_Tab && event.key() != Qt::Key_Backtab &&
+                        event.key() != Qt::Key_Delete && event.modifiers() != Qt::AltModifier;
+    if (!writes) {
+        return key::none;
+    }
+    return event.text().size() == 1 ? event.text().front().unicode() : key::none;
+}
+
+// A list's text is edited by a widget inside it.
+const QObject* ownerOf(const QObject* widget) {
+    const bool inside_list =
+        widget != nullptr && qobject_cast<const QComboBox*>(widget->parent()) != nullptr;
+    return inside_list ? widget->parent() : widget;
+}
+
+} // namespace
+
+EventBridge::EventBridge(FrmPadrao& form, QWidget& window, QtFocus& focus, Failed failed)
+    : form_(form), window_(window), focus_(focus), failed_(std::move(failed)),
+      rows_(fieldTable(form, window)) {
+    for (FieldRow& row : rows_) {
+        watch(row);
+    }
+    // Late, when the toolkit has finished its own change of focus: a handler may show a message
+    // box.
+    connect(
+        qApp, &QApplication::focusChanged, this, [this] { settleFocus(); }, Qt::QueuedConnection);
+    pushAll();
+}
+
+void EventBridge::watch(FieldRow& row) {
+    row.widget->installEventFilter(this);
+    if (auto* const list = qobject_cast<QComboBox*>(row.widget)) {
+        list->lineEdit()->installEventFilter(this);
+        // A typed text is no chosen entry, not even one that an entry equals.
+        disconnect(list->lineEdit(), &QLineEdit::editingFinished, list, nullptr);
+        connect(list->lineEdit(), &QLineEdit::textEdited, list, [list](const QString& typed) {
+            const int caret = list->lineEdit()->cursorPosition();
+            list->setCurrentIndex(-1);
+            list->setEditText(typed);
+            list->lineEdit()->setCursorPosition(caret);
+        });
+    }
+    if (auto* const button = qobject_cast<QPushButton*>(row.widget)) {
+        button->setEnabled(static_cast<bool>(row.click));
+        connect(button, &QPushButton::clicked, this, [this, &row] { press(row); });
+    }
+}
+
+void EventBridge::run(const std::function<void()>& handler) {
+    if (stopped_) {
+        return;
+    }
+    const QScopedValueRollback<bool> guard(running_, true);
+    pullAll();
+    try {
+        handler();
+    } catch (const Failure& failure) {
+        stop();
+        failed_(toQString(failure.description()));
+        return;
+    } catch (const std::exception& fault) {
+        stop();
+        failed_(QStringLiteral("Erro interno: %1").arg(QString::fromUtf8(fault.what())));
+        return;
+    }
+    pushAll();
+}
+
+void EventBridge::pullAll() {
+    for (const FieldRow& row : rows_) {
+        if (row.pull) {
+            row.pull();
+        }
+    }
+}
+
+void EventBridge::pushAll() {
+    for (const FieldRow& row : rows_) {
+        row.push();
+    }
+    pushWindow();
+}
+
+void EventBridge::pushWindow() {
+    window_.setWindowTitle(toQString(form_.Caption));
+    if (form_.Width > 0 && form_.Height > 0) {
+        window_.setFixedSize(form_.Width / twips_per_pixel, form_.Height / twips_per_pixel);
+    }
+}
+
+FieldRow* EventBridge::rowOf(const QObject* widget) {
+    const QObject* const owner = ownerOf(widget);
+    const auto found = std::find_if(rows_.begin(), rows_.end(),
+                                    [&](const FieldRow& row) { return row.widget == owner; });
+    return found == rows_.end() ? nullptr : &*found;
+}
+
+bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
+    FieldRow* const row = delivering_ || stopped_ ? nullptr : rowOf(watched);
+    if (row == nullptr) {
+        return false;
+    }
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        settleFocus();
+        return handleKey(*row, *static_cast<QKeyEvent*>(event));
+    case QEvent::InputMethod:
+        settleFocus();
+        return handleComposed(*row, *static_cast<QInputMethodEvent*>(event));
+    case QEvent::MouseButtonDblClick:
+        if (row->dblclick && watched == row->widget) {
+            settleFocus();
+            run(row->dblclick);
+        }
+        return false;
+    default:
+        return false;
+    }
+}
+
+// The field that has the focus among the window's own gets its entering event, the one before its
+// leaving event. Another program's window or a message box does not count as a change. A handler
+// that moves the focus is followed by one more turn.
+void EventBridge::settleFocus() {
+    while (!running_ && !stopped_) {
+        FieldRow* const focused = rowOf(window_.focusWidget());
+        if (focused == active_) {
+            return;
+        }
+        FieldRow* const left = std::exchange(active_, focused);
+        if (left != nullptr && left->leave) {
+            run(left->leave);
+        }
+        if (active_ != nullptr && active_->enter) {
+            run(active_->enter);
+        }
+    }
+}
+
+void EventBridge::moveFocus() {
+    const int steps = focus_.takeSteps();
+    for (int i = 0; i < std::abs(steps); ++i) {
+        QKeyEvent tab(QEvent::KeyPress, steps > 0 ? Qt::Key_Tab : Qt::Key_Backtab,
+                      steps > 0 ? Qt::NoModifier : Qt::ShiftModifier);
+        if (QWidget* const focused = window_.focusWidget()) {
+            deliver(*focused, tab);
+        }
+    }
+    settleFocus();
+}
+
+// However a command was pressed, it takes the focus first, so that the field that the operator was
+// in has had its leaving event. That event may hide the command.
+void EventBridge::press(FieldRow& row) {
+    row.widget->setFocus();
+    settleFocus();
+    if (!row.widget->isHidden()) {
+        run(row.click);
+    }
+}
+
+bool EventBridge::handleKey(FieldRow& row, const QKeyEvent& event) {
+    const bool walked = handleWindowKey(row, event);
+    const bool swallowed = handleCharacter(row, event);
+    moveFocus();
+    return walked || swallowed;
+}
+
+// True when the key walked to another field. Enter on a command presses it instead.
+bool EventBridge::handleWindowKey(const FieldRow& row, const QKeyEvent& event) {
+    const KeyCode code = walkingKey(event);
+    const bool presses = code == key::enter && row.click;
+    if (code == key::none || presses) {
+        return false;
+    }
+    const bool previewed = form_.KeyPreview;
+    run([&] { FrmPadrao_keydown(form_, code); });
+    return previewed;
+}
+
+// True when the widget must not see the key any more.
+bool EventBridge::handleCharacter(FieldRow& row, const QKeyEvent& event) {
+    const KeyCode typed = characterOf(event);
+    if (!row.key || typed == key::none) {
+        return false;
+    }
+    const KeyCode key = filtered(row, typed);
+    if (key == typed) {
+        return typed == key::enter; // the handler has done all that Enter does
+    }
+    if (key != key::none) {
+        QKeyEvent changed(event.type(), event.key(), event.modifiers(), QString(QChar(key)));
+        deliver(*row.widget, changed);
+    }
+    return true;
+}
+
+// An accent and its letter, or another composed text, comes in one piece: each character of it
+// passes as a key of its own.
+bool EventBridge::handleComposed(FieldRow& row, const QInputMethodEvent& event) {
+    if (!row.key || event.commitString().isEmpty()) {
+        return false;
+    }
+    QString passed;
+    for (const QChar character : event.commitString()) {
+        const KeyCode key = filtered(row, character.unicode());
+        if (key != key::none) {
+            passed.append(QChar(key));
+        }
+    }
+    QInputMethodEvent changed;
+    changed.setCommitString(passed, event.replacementStart(), event.replacementLength());
+    deliver(*row.widget, changed);
+    return true;
+}
+
+KeyCode EventBridge::filtered(FieldRow& row, KeyCode key) {
+    KeyCode result = key;
+    run([&] { result = row.key(key); });
+    return result;
+}
+
+void EventBridge::deliver(QWidget& widget, QEvent& event) {
+    const QScopedValueRollback<bool> guard(delivering_, true);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+} // namespace etiquetas

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "desktop/FieldMirror.h"
+
+#include <vector>
+
+class QWidget;
+
+namespace etiquetas {
+
+struct FrmPadrao;
+
+/// Binds the fields of the Workbench to the widgets of its window, found by their object names, and
+/// to their event handlers. It is the one place that knows both.
+[[nodiscard]] std::vector<FieldRow> fieldTable(FrmPadrao& form, QWidget& window);
+
+} // namespace etiquetas

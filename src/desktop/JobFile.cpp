@@ -1,0 +1,63 @@
+#include "desktop/JobFile.h"
+
+#include "desktop/PrintFailure.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryFile>
+
+#include <algorithm>
+
+namespace etiquetas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QFile::Permissions readable_by_all =
+    QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther;
+
+Failure notWritten(const QString& folder) {
+    return printFailure(u"Não foi possível gravar as etiquetas na pasta \"%1\"."_s.arg(folder));
+}
+
+// The writer of PDF files does not tell of a full disk. What it writes last shows that all is
+// there.
+bool isComplete(const QString& path) {
+    constexpr qint64 tail = 16; // bytes
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - tail)) &&
+           file.readAll().trimmed().endsWith("%%EOF");
+}
+
+QString freeName(const QDir& folder, const QDateTime& time) {
+    const QString stem = time.toString(u"yyyy-MM-dd HH-mm-ss"_s);
+    QString name = stem + u".pdf"_s;
+    for (int number = 2; folder.exists(name); ++number) {
+        name = u"%1 (%2).pdf"_s.arg(stem).arg(number);
+    }
+    return folder.filePath(name);
+}
+
+} // namespace
+
+QString writeJobFile(const QString& folder, const QDateTime& time,
+                     const std::function<void(const QString& path)>& write) {
+    const QDir place(folder);
+    QTemporaryFile draft(place.filePath(u".impressao-XXXXXX.pdf"_s));
+    if (!place.mkpath(u"."_s) || !draft.open()) {
+        throw notWritten(folder);
+    }
+    const QString draft_path = draft.fileName();
+    draft.close();
+    write(draft_path);
+    const QString path = freeName(place, time);
+    if (!isComplete(draft_path) || !QFile::setPermissions(draft_path, readable_by_all) ||
+        !QFile::rename(draft_path, path)) {
+        throw notWritten(folder);
+    }
+    draft.setAutoRemove(false);
+    return path;
+}
+
+} // namespace etiquetas

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/Focus.h"
+#include "platform/Pointer.h"
+#include "platform/Process.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+
+#include <functional>
+#include <utility>
+
+namespace etiquetas {
+
+/// Keeps the moves that an event asks for until the event has ended.
+class QtFocus final : public Focus {
+  public:
+    void tabForward() override { ++steps_; }
+    void tabBackward() override { --steps_; }
+
+    /// The fields to move on by, negative for back; the next call starts from none.
+    int takeSteps() { return std::exchange(steps_, 0); }
+
+  private:
+    int steps_ = 0;
+};
+
+/// The pointer over all windows of the program.
+class QtPointer final : public Pointer {
+  public:
+    void busy() override { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    void normal() override { QGuiApplication::restoreOverrideCursor(); }
+};
+
+/// The running program; what ends it is set once it is known.
+class QtProcess final : public Process {
+  public:
+    void onEnd(std::function<void()> end) { end_ = std::move(end); }
+    void end() override { end_(); }
+
+  private:
+    std::function<void()> end_ = [] {};
+};
+
+} // namespace etiquetas

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "base/Text.h"
+#include "platform/Files.h"
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace etiquetas {
+
+/// The file system by the toolkit. A fault is a `Failure` whose description names the file.
+class QtFiles final : public Files {
+  public:
+    /// With the folder that holds the program.
+    explicit QtFiles(const QString& program_folder);
+
+    [[nodiscard]] Text programFolder() const override { return program_folder_; }
+    [[nodiscard]] char16_t separator() const override;
+
+    [[nodiscard]] bool fileExists(TextView path) const override;
+    [[nodiscard]] bool folderExists(TextView path) const override;
+    [[nodiscard]] std::vector<Text> filesIn(TextView folder) const override;
+
+    /// One folder; the one that it stands in must be there. Fails where it exists already.
+    void makeFolder(TextView path) override;
+    void deleteFile(TextView path) override;
+
+    [[nodiscard]] std::string read(TextView path) const override;
+    void replace(TextView path, std::string_view bytes) override;
+
+  private:
+    Text program_folder_;
+};
+
+} // namespace etiquetas

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <functional>
+
+namespace etiquetas {
+
+/// The window of the Workbench: its widgets, laid out, each named after its field. It knows nothing
+/// of what the fields do.
+class WorkbenchWindow final : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    WorkbenchWindow();
+
+    /// Shows a line at the foot of the window until the next one.
+    void tell(const QString& status);
+    /// What runs when the window is closed.
+    void onClose(std::function<void()> closed) { closed_ = std::move(closed); }
+    /// What runs when the window gets another size.
+    void onResize(std::function<void()> resized) { resized_ = std::move(resized); }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    std::function<void()> closed_ = [] {};
+    std::function<void()> resized_ = [] {};
+};
+
+} // namespace etiquetas

@@ -1,0 +1,283 @@
+#include "PdfTools.h"
+#include "demo/Operator.h"
+#include "desktop/QtText.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+
+namespace etiquetas {
+
+namespace {
+
+using namespace test;
+using namespace Qt::StringLiterals;
+
+constexpr int oculta = 3; // position among the label kinds
+
+constexpr const char* order_file =
+    "BRISA KO;PEDIDO 77\r\n"
+    "1;PRETO;33;;BOTA CANO CURTO;231045270100;3104527001;32;BK;A1\r\n"
+    "2;PRETO;34;;BOTA CANO CURTO;2310452701010;3104527001;32;BK;A1\r\n"
+    "3;AZUL;35;;TENIS;231045270200;3104527002;32;BK;A1\r\n";
+
+// A real window in a folder of its own, and an operator at it.
+class WindowTest : public testing::Test {
+  protected:
+    WindowTest() {
+        write(u"Varesko.ini"_s, "[MargemOcultaZebra]\r\nMargem_oculta1=3\r\nMargem_oculta11=45\r\n"
+                                "Margem_oculta2=3\r\n");
+        write(u"pedido 77 frente.txt"_s, order_file);
+        for (const QString& logo : {u"brisako.jpg"_s, u"lumira.jpg"_s}) {
+            QFile::copy(QStringLiteral(ETIQUETAS_SAMPLES "/") + logo, folder.filePath(logo));
+        }
+    }
+
+    void write(const QString& name, const QByteArray& bytes) const {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    void open() {
+        desktop.emplace(folder.path());
+        desktop->start();
+        worker.sitAt(*desktop);
+        worker.takeBoxes(); // those of the start-up: faces that the machine lacks
+    }
+
+    void loadOrder() {
+        open();
+        worker.choose(u"cmbtipo"_s, oculta);
+        worker.type(u"txtarquivo"_s, u"77"_s);
+        worker.press(Qt::Key_Return);
+    }
+
+    [[nodiscard]] QStringList jobs() const {
+        return QDir(folder.filePath(u"impressos"_s)).entryList(QDir::Files | QDir::Hidden);
+    }
+
+    [[nodiscard]] QString onlyJob() const {
+        const QStringList names = jobs();
+        return names.size() == 1 ? folder.filePath(u"impressos/"_s + names.first()) : QString();
+    }
+
+    [[nodiscard]] std::vector<QString> boxTexts() {
+        std::vector<QString> texts;
+        for (const SeenBox& box : worker.takeBoxes()) {
+            texts.push_back(box.text);
+        }
+        return texts;
+    }
+
+    [[nodiscard]] QByteArray settings() const {
+        QFile file(folder.filePath(u"Varesko.ini"_s));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir folder;
+    Operator worker;
+    std::optional<Desktop> desktop;
+};
+
+TEST_F(WindowTest, leadsThroughAnOrderByTheKeyboard) {
+    loadOrder();
+    EXPECT_EQ(worker.text(u"LBLBRISAKO"_s), u"BRISA KO"_s);
+    EXPECT_EQ(worker.text(u"TXTOCULTAS"_s), u"6"_s);
+    EXPECT_EQ(worker.focused(), u"cmb_referencia"_s);
+    worker.press(Qt::Key_Return);
+    EXPECT_EQ(worker.focused(), u"txtnumero(0)"_s);
+    worker.keys(u"-2x"_s); // replaces the selected 1; what is no digit is dropped
+    worker.pressMnemonic(Qt::Key_I);
+    // The quantity was totalled before the command ran, and the next item is there behind it.
+    EXPECT_EQ(boxTexts(), std::vector{u"A Impressão está OK"_s});
+    EXPECT_EQ(worker.text(u"txtcor"_s), u"AZUL"_s);
+    EXPECT_EQ(worker.text(u"txtnumero(0)"_s), u"3"_s);
+    EXPECT_EQ(worker.widget<QComboBox>(u"cmb_referencia"_s).count(), 1);
+    ASSERT_FALSE(onlyJob().isEmpty());
+    EXPECT_EQ(pageSizes(onlyJob()), std::vector<QSizeF>(4, QSizeF(450, 60)));
+    EXPECT_EQ(worker.focused(), u"cmd_printacessorio"_s);
+    worker.press(Qt::Key_Return);
+    EXPECT_EQ(jobs().size(), 2);
+    EXPECT_TRUE(worker.text(u"cmb_referencia"_s).isEmpty());
+}
+
+// Text, place of its top-left corner in the first column, size and Windows ascent of its font.
+struct Expected {
+    QString text;
+    double x;
+    double y;
+    double size;
+    double ascent;
+};
+
+TEST_F(WindowTest, printsTextsWithinATenthOfAMillimetreAndBarsThatScan) {
+    loadOrder();
+    worker.click(u"cmd_printacessorio"_s);
+    ASSERT_FALSE(onlyJob().isEmpty());
+    constexpr double calibri = 1950.0 / 2048;  // Carlito's
+    constexpr double franklin = 1854.0 / 2048; // Liberation Sans's
+    const std::array<Expected, 7> first_column{{{u"527"_s, 33.3, 2, 20, calibri},
+                                                {u"3104527001"_s, 23.6, 10.5, 6, franklin},
+                                                {u"231045"_s, 19.5, 16.8, 6, franklin},
+                                                {u"2701003"_s, 30.7, 16.8, 6, franklin},
+                                                {u"33"_s, 6.3, 10, 26, calibri},
+                                                {u"BOTA CANO CURTO"_s, 5.8, 3.2, 6, franklin},
+                                                {u"PRETO"_s, 5.8, 5.4, 6, franklin}}};
+    constexpr double columns_apart = 45 + 5 - 3 - 2.3;
+    const auto texts = pageTexts(onlyJob()).front();
+    for (const Expected& expected : first_column) {
+        SCOPED_TRACE(qPrintable(expected.text));
+        std::vector<QPointF> origins;
+        for (const PdfText& text : texts) {
+            if (text.text == expected.text) {
+                origins.push_back(text.origins.front());
+            }
+        }
+        ASSERT_EQ(origins.size(), 2);
+        const double baseline = expected.y + expected.ascent * expected.size * 25.4 / 72;
+        EXPECT_NEAR(origins[0].x(), expected.x, 0.1);
+        EXPECT_NEAR(origins[1].x(), expected.x + columns_apart, 0.1);
+        EXPECT_NEAR(origins[0].y(), baseline, 0.1);
+        EXPECT_NEAR(origins[1].y(), baseline, 0.1);
+    }
+    const std::array barcodes{u"2310452701003"_s, u"2310452701010"_s, u"2310452701010"_s};
+    for (std::size_t i = 0; i < barcodes.size(); ++i) {
+        for (const int resolution : {203, 300}) {
+            SCOPED_TRACE(testing::Message() << "page " << i + 1 << " at " << resolution << " dpi");
+            const QImage page = renderedPage(onlyJob(), static_cast<int>(i) + 1, resolution,
+                                             Tones::black_and_white);
+            const int column = page.width() / 3; // 53 mm, between the two symbols
+            EXPECT_EQ(symbolsIn(page.copy(0, 0, column, page.height())), QStringList{barcodes[i]});
+            EXPECT_EQ(symbolsIn(page.copy(column, 0, page.width() - column, page.height())),
+                      QStringList{barcodes[i]});
+        }
+    }
+}
+
+TEST_F(WindowTest, runsALeavingEventThatShowsABoxOnce) {
+    open();
+    worker.type(u"txtarquivo"_s, u"999"_s);
+    // The window shows what the fields hold while the box stands.
+    bool white_again = false;
+    worker.beforeAnswer([&] {
+        const auto& field = worker.widget<QLineEdit>(u"txtarquivo"_s);
+        white_again = field.palette().color(QPalette::Base) == Qt::white;
+    });
+    worker.press(Qt::Key_Tab);
+    EXPECT_EQ(boxTexts(), std::vector{u"O Pedido 999, não foi localizado em "_s + folder.path()});
+    EXPECT_TRUE(white_again);
+    EXPECT_EQ(worker.focused(), u"cmb_referencia"_s);
+    EXPECT_TRUE(worker.widget<QPushButton>(u"cmd_printacessorio"_s).isHidden());
+}
+
+TEST_F(WindowTest, doesNotPressACommandThatTheLeavingEventHides) {
+    loadOrder();
+    worker.type(u"txtarquivo"_s, u"999"_s);
+    worker.pressMnemonic(Qt::Key_I);
+    EXPECT_EQ(boxTexts().size(), 1);
+    EXPECT_TRUE(jobs().isEmpty());
+}
+
+TEST_F(WindowTest, walksItsListsByArrowAndLoadsThemWhenTheyAreLeft) {
+    loadOrder();
+    worker.press(Qt::Key_Down);
+    EXPECT_EQ(worker.text(u"cmb_referencia"_s), u"3104527 | TENIS | AZUL"_s);
+    EXPECT_EQ(worker.text(u"txtcor"_s), u"PRETO"_s);
+    worker.press(Qt::Key_Return);
+    EXPECT_EQ(worker.text(u"txtcor"_s), u"AZUL"_s);
+    worker.press(Qt::Key_Up);
+    EXPECT_EQ(worker.focused(), u"cmb_referencia"_s);
+    worker.type(u"cmb_referencia"_s, u"3104527 | TENIS | AZUL"_s);
+    worker.press(Qt::Key_Tab);
+    EXPECT_EQ(desktop->form().cmb_referencia.position, -1);
+    EXPECT_EQ(worker.text(u"txtcor"_s), u"AZUL"_s);
+}
+
+TEST_F(WindowTest, filtersKeysAndComposedTexts) {
+    loadOrder();
+    worker.type(u"txtcor"_s, u"marrom"_s);
+    QInputMethodEvent composed;
+    composed.setCommitString(u"ç\u00E3"_s);
+    QApplication::sendEvent(&worker.widget<QLineEdit>(u"txtcor"_s), &composed);
+    EXPECT_EQ(worker.text(u"txtcor"_s), u"MARROMÇÃ"_s);
+    worker.type(u"txtnumero(1)"_s, u"1a2,3"_s);
+    EXPECT_EQ(worker.text(u"txtnumero(1)"_s), u"123"_s);
+    worker.press(Qt::Key_Backspace);
+    worker.press(Qt::Key_Home);
+    worker.press(Qt::Key_Delete);
+    EXPECT_EQ(worker.text(u"txtnumero(1)"_s), u"2"_s);
+}
+
+TEST_F(WindowTest, keepsTheTotalsWhenTheyOverflow) {
+    loadOrder();
+    worker.type(u"txtnumero(0)"_s, u"999999"_s);
+    worker.press(Qt::Key_Return);
+    EXPECT_EQ(worker.text(u"TXTPARES"_s), u"3"_s);
+    EXPECT_FALSE(desktop->exitCode());
+}
+
+TEST_F(WindowTest, keepsAJobOpenBehindAnErrorUntilTheNextOneEndsIt) {
+    loadOrder();
+    worker.type(u"txtcor"_s, u"verde"_s); // no line has it, so that no size has its codes
+    worker.doubleClick(u"Frame4"_s);
+    worker.click(u"cmd_printacessorio"_s); // draws the header strip
+    EXPECT_EQ(boxTexts(), std::vector{u"Erro - 1012 - Código Master - Contate Suporte "_s});
+    EXPECT_TRUE(jobs().isEmpty());
+    worker.doubleClick(u"Frame4"_s);
+    worker.type(u"txtcor"_s, u"preto"_s);
+    worker.click(u"cmd_printacessorio"_s);
+    ASSERT_FALSE(onlyJob().isEmpty());
+    EXPECT_EQ(pageSizes(onlyJob()).size(), 4); // the strip, and three pages of labels
+}
+
+TEST_F(WindowTest, endsWithOneBoxAndWithoutItsOpenJobOnAnUnguardedFailure) {
+    loadOrder();
+    worker.type(u"txtcor"_s, u"verde"_s);
+    worker.doubleClick(u"Frame4"_s);
+    worker.click(u"cmd_printacessorio"_s);
+    worker.takeBoxes();
+    worker.type(u"txtlote"_s, u"99999"_s); // more than 16 bits hold
+    worker.click(u"cmb_referencia"_s);
+    worker.press(Qt::Key_Tab);
+    EXPECT_EQ(boxTexts(), std::vector{u"Estouro: um número é grande demais."_s});
+    EXPECT_EQ(desktop->exitCode(), 1);
+    // Nothing runs any more.
+    worker.type(u"txtarquivo"_s, u"999"_s);
+    worker.press(Qt::Key_Return);
+    desktop->window().close();
+    EXPECT_TRUE(boxTexts().empty());
+    EXPECT_EQ(desktop->exitCode(), 1);
+    EXPECT_TRUE(jobs().isEmpty());
+}
+
+TEST_F(WindowTest, storesItsFieldsOnlyWhenItIsLeftByItsCommand) {
+    loadOrder();
+    worker.doubleClick(u"Frame4"_s);
+    worker.type(u"txtcliente"_s, u"calcados"_s);
+    worker.click(u"cmd_sair"_s);
+    EXPECT_EQ(desktop->exitCode(), 0);
+    const QByteArray stored = settings();
+    EXPECT_TRUE(stored.endsWith("[Config]\r\narquivo=77\r\nReferencia=CALCADOS\r\nLote=\r\n"
+                                "Intensidade=\r\nVelocidade=\r\nTipo=Oculta\r\n"))
+        << stored.toStdString();
+    open();
+    EXPECT_EQ(worker.text(u"txtcliente"_s), u"CALCADOS"_s);
+    desktop->window().close();
+    EXPECT_EQ(desktop->exitCode(), 0);
+    EXPECT_EQ(settings(), stored);
+}
+
+} // namespace
+
+} // namespace etiquetas
