@@ -58,10 +58,11 @@ class Demonstration {
 
     int takeJobs() {
         const QDir jobs(installation_ + QStringLiteral("/impressos"));
-        const QStringList names = jobs.entryList({QStringLiteral("*.pdf")}, QDir::Files);
-        for (const QString& name : names) {
-            const QString path = output_.filePath(QString(name).replace(' ', '_'));
-            QFile::copy(jobs.filePath(name), path);
+        const QStringList names =
+            jobs.entryList({QStringLiteral("*.pdf")}, QDir::Files, QDir::Time | QDir::Reversed);
+        for (qsizetype i = 0; i < names.size(); ++i) {
+            const QString path = output_.filePath(QStringLiteral("etiquetas-%1.pdf").arg(i + 1));
+            QFile::copy(jobs.filePath(names[i]), path);
             report(path);
         }
         return names.isEmpty() ? 1 : 0;

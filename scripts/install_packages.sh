@@ -21,6 +21,7 @@ if [ "$purpose" = test ]; then
     packages+=(
         libgtest-dev libgmock-dev # test framework
         zbar-tools mupdf-tools    # readers of the printed bars and pages
+        fontconfig                # where the fonts are
         xvfb xauth                # a display for the real window
     )
 elif [ -n "${WAYLAND_DISPLAY:-}" ] && [ -z "${DISPLAY:-}" ]; then

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 namespace etiquetas {
 
@@ -97,7 +98,8 @@ class Lines {
 };
 
 std::string keyLine(std::string_view key, std::string_view value) {
-    std::string line = std::string(key) + "=";
+    std::string line(key);
+    line += '=';
     std::copy_if(value.begin(), value.end(), std::back_inserter(line),
                  [](char character) { return line_end.find(character) == std::string_view::npos; });
     return line.append(line_end);
@@ -139,8 +141,9 @@ std::string withProfileValue(std::string_view file, std::string_view section, st
     Lines lines(file);
     const auto header = lines.findSection(section);
     if (!header) {
-        const std::string opening = "[" + std::string(section) + "]" + std::string(line_end);
-        return spliced(file, file.size(), file.size(), opening + keyLine(key, value));
+        std::string lines_to_add = "[";
+        lines_to_add.append(section).append("]").append(line_end).append(keyLine(key, value));
+        return spliced(file, file.size(), file.size(), lines_to_add);
     }
     std::size_t behind_last_key = header->next;
     for (auto line = lines.next(); line && !line->isSection(); line = lines.next()) {

@@ -161,6 +161,9 @@ bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
             run(row->dblclick);
         }
         return false;
+    case QEvent::Wheel:
+        // The wheel must not change a list that the operator only passes over.
+        return !row->widget->hasFocus();
     default:
         return false;
     }
@@ -214,11 +217,14 @@ bool EventBridge::handleKey(FieldRow& row, const QKeyEvent& event) {
     return walked || swallowed;
 }
 
-// True when the key walked to another field. Enter on a command presses it instead.
+// True when the key walked to another field. Enter on a command presses it instead, and the arrow
+// keys walk through the entries of a list.
 bool EventBridge::handleWindowKey(const FieldRow& row, const QKeyEvent& event) {
     const KeyCode code = walkingKey(event);
     const bool presses = code == key::enter && row.click;
-    if (code == key::none || presses) {
+    const bool walks_list =
+        code != key::enter && qobject_cast<const QComboBox*>(row.widget) != nullptr;
+    if (code == key::none || presses || walks_list) {
         return false;
     }
     const bool previewed = form_.KeyPreview;

@@ -5,7 +5,6 @@
 #include <QFont>
 #include <QFontDatabase>
 
-#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -39,13 +38,12 @@ bool contains(const QStringList& families, TextView family) {
 }
 
 std::optional<FontChoice> standInFor(TextView face, const QStringList& families) {
-    const auto found = std::find_if(stand_ins.begin(), stand_ins.end(), [&](const StandIn& other) {
-        return equalIgnoringCase(other.face, face) && contains(families, other.family);
-    });
-    if (found == stand_ins.end()) {
-        return std::nullopt;
+    for (const StandIn& other : stand_ins) {
+        if (equalIgnoringCase(other.face, face) && contains(families, other.family)) {
+            return FontChoice{toQString(other.family), other.scale};
+        }
     }
-    return FontChoice{toQString(found->family), found->scale};
+    return std::nullopt;
 }
 
 } // namespace

@@ -51,7 +51,7 @@ QString writeJobFile(const QString& folder, const QDateTime& time,
     const QString draft_path = draft.fileName();
     draft.close();
     write(draft_path);
-    const QString path = freeName(place, time);
+    QString path = freeName(place, time);
     if (!isComplete(draft_path) || !QFile::setPermissions(draft_path, readable_by_all) ||
         !QFile::rename(draft_path, path)) {
         throw notWritten(folder);

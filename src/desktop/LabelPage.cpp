@@ -7,7 +7,8 @@ namespace {
 double millimetresRoundedUp(int twips) {
     constexpr qint64 hundredths = 127; // of a millimetre, to 72 twips
     constexpr qint64 twips_each = 72;
-    return static_cast<double>((twips * hundredths + twips_each - 1) / twips_each) / 100;
+    const qint64 rounded_up = (twips * hundredths + twips_each - 1) / twips_each;
+    return static_cast<double>(rounded_up) / 100;
 }
 
 void drawMark(QPainter& painter, const TextMark& mark) {

@@ -9,7 +9,7 @@ namespace etiquetas {
 
 /// A fault of printing, told in Portuguese.
 [[nodiscard]] inline Failure printFailure(const QString& description) {
-    return Failure(failure_number::printer, u"PrintSurface", toText(description));
+    return {failure_number::printer, u"PrintSurface", toText(description)};
 }
 
 } // namespace etiquetas

@@ -18,7 +18,7 @@ namespace {
 Failure fileFailure(TextView deed, TextView path) {
     Text description = u"Não foi possível ";
     description.append(deed).append(u" \"").append(path).append(u"\".");
-    return Failure(failure_number::file_access, u"Files", std::move(description));
+    return {failure_number::file_access, u"Files", std::move(description)};
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <span>
 
@@ -24,8 +25,8 @@ namespace {
 constexpr std::int64_t most_pixels = 30'000'000;
 
 Failure invalidPicture(TextView path) {
-    return Failure(failure_number::invalid_picture, u"Pictures",
-                   Text(u"Imagem inválida: o arquivo \"").append(path).append(u"\" não é JPEG."));
+    return {failure_number::invalid_picture, u"Pictures",
+            Text(u"Imagem inválida: o arquivo \"").append(path).append(u"\" não é JPEG.")};
 }
 
 bool isTooLarge(const QSize& size) {

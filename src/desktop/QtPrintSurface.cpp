@@ -19,7 +19,7 @@ constexpr double millimetres_per_inch = 25.4;
 constexpr double millimetres_per_point = millimetres_per_inch / 72;
 
 Failure invalidCall(const char16_t* description) {
-    return Failure(failure_number::invalid_call, u"PrintSurface", description);
+    return {failure_number::invalid_call, u"PrintSurface", description};
 }
 
 void requirePositive(int twips) {
@@ -80,7 +80,7 @@ void QtPrintSurface::Print(TextView text) {
     }
     LabelPage& drawn = page();
     const QPointF baseline(x_ * unit(), y_ * unit() + font_->ascent(fontSize()));
-    drawn.marks.push_back(
+    drawn.marks.emplace_back(
         TextMark{baseline, toQString(text), font_->font(), font_->scaleFor(fontSize())});
 }
 
@@ -94,7 +94,7 @@ void QtPrintSurface::Line(int flags, float x1, float y1, float x2, float y2, Pix
     }
     LabelPage& drawn = page();
     const QRectF box = place(x1, y1, x2 - x1, y2 - y1);
-    drawn.marks.push_back(BoxMark{box.normalized(), colourOf(colour)});
+    drawn.marks.emplace_back(BoxMark{box.normalized(), colourOf(colour)});
 }
 
 void QtPrintSurface::PaintPicture(const Picture& picture, float x, float y, float width,
@@ -171,7 +171,7 @@ std::optional<QPageSize> QtPrintSurface::pageSize() const {
 
 QRectF QtPrintSurface::place(float x, float y, float width, float height) const {
     const double scale = unit();
-    return QRectF(x * scale, y * scale, width * scale, height * scale);
+    return {x * scale, y * scale, width * scale, height * scale};
 }
 
 LabelPage& QtPrintSurface::page() {

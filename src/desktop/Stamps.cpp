@@ -63,7 +63,7 @@ void stampBands(LabelPage& page, const Raster& picture, const QRect& crop, const
         const int end = bandEnd(picture, crop, row);
         const QRectF band(place.left(), place.top() + (row - crop.top()) * row_height,
                           place.width(), (end - row) * row_height);
-        page.marks.push_back(bandMark(rowOf(picture, crop, row), band));
+        page.marks.emplace_back(bandMark(rowOf(picture, crop, row), band));
         row = end;
     }
 }
@@ -100,7 +100,7 @@ QRect cropOf(const Raster& picture, const SourceArea& source) {
     const int top = edge(source.y, 0, picture.height);
     const int right = edge(sum(source.x, source.width), picture.width, picture.width);
     const int bottom = edge(sum(source.y, source.height), picture.height, picture.height);
-    return QRect(left, top, right - left, bottom - top);
+    return {left, top, right - left, bottom - top};
 }
 
 void Stamps::stamp(LabelPage& page, const Picture& picture, const QRect& crop,
@@ -108,7 +108,7 @@ void Stamps::stamp(LabelPage& page, const Picture& picture, const QRect& crop,
     if (isBlackAndWhite(*picture, crop)) {
         stampBands(page, *picture, crop, place);
     } else {
-        page.marks.push_back(ImageMark{place, imageOf(picture, crop)});
+        page.marks.emplace_back(ImageMark{place, imageOf(picture, crop)});
     }
 }
 

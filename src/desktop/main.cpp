@@ -5,7 +5,6 @@
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Etiquetas"));
     etiquetas::Desktop desktop(QApplication::applicationDirPath());
     desktop.start();
     return desktop.exitCode() ? *desktop.exitCode() : QApplication::exec();

@@ -13,7 +13,7 @@ namespace etiquetas {
 namespace {
 
 // The layout, in drawing order; millimetres from the label's origin.
-constexpr Font measuring_font{face::franklin_medium, false, 7};
+constexpr float measuring_points = 7;
 constexpr float line_limit = 23;
 
 constexpr Font small_text{face::franklin_medium, false, 6};
@@ -69,10 +69,11 @@ std::size_t breakOf(const PrintSurface& surface, TextView text) {
     return text.size();
 }
 
-// Measured at a size above the one that the lines print at, in the weight that stands.
-DescriptionLines brokenDescription(PrintSurface& surface, TextView descricao, TextView cor) {
-    surface.FontName(measuring_font.face);
-    surface.FontSize(measuring_font.points);
+// Measured in a size above the one that the lines print in, and in the weight that stands.
+DescriptionLines brokenDescription(FrmPadrao& form, TextView descricao, TextView cor) {
+    PrintSurface& surface = form.platform.surface;
+    surface.FontName(form.NomeFonte);
+    surface.FontSize(measuring_points);
     DescriptionLines lines{descricao, {}, cor};
     if (surface.TextWidth(descricao) >= line_limit) {
         const std::size_t end = breakOf(surface, descricao);
@@ -149,9 +150,9 @@ void drawLabel(FrmPadrao& form, const HiddenLabel& label) {
 void Imprime_Oculta_40_20_2(FrmPadrao& form, TextView flag, TextView descricao, TextView ref3,
                             TextView master, TextView barra, TextView numero,
                             std::int16_t quantidade, TextView cor) {
-    const HiddenLabel label{flag,  brokenDescription(form.platform.surface, descricao, cor),
-                            ref3,  master,
-                            barra, numero};
+    form.NomeFonte = face::franklin_medium;
+    const HiddenLabel label{flag,  brokenDescription(form, descricao, cor), ref3, master, barra,
+                            numero};
     for (std::int32_t n = 1; n <= quantidade; ++n) {
         drawLabel(form, label);
     }

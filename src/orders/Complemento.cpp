@@ -1,5 +1,6 @@
 #include "orders/Complemento.h"
 
+#include "base/Failure.h"
 #include "base/Numbers.h"
 #include "orders/OrderFormat.h"
 #include "platform/Files.h"
@@ -87,16 +88,20 @@ Text DigitoEan(TextView codigo) {
 
 void pega_imagem(FrmPadrao& form) {
     form.tem_imagem = false;
+    form.pctimage.picture.reset();
     const Files& files = form.platform.files;
     const Text folder = joined(files, files.programFolder(), u"imagens");
     const auto photograph =
         findFile(files, folder, Text(trimmed(form.txtcodigo.text)).append(u".jpg"));
     if (!photograph) {
-        form.pctimage.picture.reset();
         return;
     }
-    form.pctimage.picture = form.platform.pictures.load(*photograph);
-    form.tem_imagem = true;
+    // A file that is no picture counts as a missing one: an item is printed without its photograph
+    // rather than not at all.
+    skip([&] {
+        form.pctimage.picture = form.platform.pictures.load(*photograph);
+        form.tem_imagem = true;
+    });
 }
 
 } // namespace etiquetas

@@ -15,8 +15,8 @@ void ret_codcomplemento(FrmPadrao& form, TextView tamanho);
 /// blank. A character that is no digit counts 0.
 [[nodiscard]] Text DigitoEan(TextView codigo);
 
-/// Loads the photograph of the product into `pctimage`, or clears it where there is none. Fails
-/// where the file is no picture.
+/// Loads the photograph of the product into `pctimage`, or clears it where there is none or where
+/// its file is no picture.
 void pega_imagem(FrmPadrao& form);
 
 } // namespace etiquetas

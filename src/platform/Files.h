@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Text.h"
+#include "platform/Interface.h"
 
 #include <optional>
 #include <string>
@@ -10,10 +11,8 @@
 namespace etiquetas {
 
 /// The file system. Paths are texts in the machine's own form.
-class Files {
+class Files : public Interface {
   public:
-    virtual ~Files() = default;
-
     /// The folder that holds the program, without a separator at its end unless it is a root.
     [[nodiscard]] virtual Text programFolder() const = 0;
     /// The character between the parts of a path.
@@ -33,13 +32,6 @@ class Files {
     /// Gives a file new bytes in one step, so that a power cut leaves the old ones or the new ones;
     /// creates it where it is missing, and fails where it can't be written.
     virtual void replace(TextView path, std::string_view bytes) = 0;
-
-  protected:
-    Files() = default;
-    Files(const Files&) = default;
-    Files(Files&&) = default;
-    Files& operator=(const Files&) = default;
-    Files& operator=(Files&&) = default;
 };
 
 /// The path of a name in a folder: one separator between them, none added where the folder's text

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Text.h"
+#include "platform/Interface.h"
 
 #include <cstdint>
 
@@ -19,19 +20,10 @@ struct Message {
 };
 
 /// Message boxes, which hold the program until the operator has answered.
-class MessageBoxes {
+class MessageBoxes : public Interface {
   public:
-    virtual ~MessageBoxes() = default;
-
     /// Shows the message. A box that is closed without an answer counts as OK or No.
     virtual Answer show(const Message& message) = 0;
-
-  protected:
-    MessageBoxes() = default;
-    MessageBoxes(const MessageBoxes&) = default;
-    MessageBoxes(MessageBoxes&&) = default;
-    MessageBoxes& operator=(const MessageBoxes&) = default;
-    MessageBoxes& operator=(MessageBoxes&&) = default;
 };
 
 } // namespace etiquetas

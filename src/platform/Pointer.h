@@ -1,21 +1,14 @@
 #pragma once
 
+#include "platform/Interface.h"
+
 namespace etiquetas {
 
 /// The mouse pointer.
-class Pointer {
+class Pointer : public Interface {
   public:
-    virtual ~Pointer() = default;
-
     virtual void busy() = 0;
     virtual void normal() = 0;
-
-  protected:
-    Pointer() = default;
-    Pointer(const Pointer&) = default;
-    Pointer(Pointer&&) = default;
-    Pointer& operator=(const Pointer&) = default;
-    Pointer& operator=(Pointer&&) = default;
 };
 
 } // namespace etiquetas

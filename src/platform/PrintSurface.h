@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Text.h"
+#include "platform/Interface.h"
 #include "platform/Picture.h"
 #include "platform/ScaleMode.h"
 
@@ -27,10 +28,8 @@ struct SourceArea {
 /// The state (face, size, weight, pen, unit, page size) stays until it is set again, from label to
 /// label and from job to job. The first drawing begins a job on the printer that is current then;
 /// the job stays there until `EndDoc`. Every operation may fail with a `Failure`.
-class PrintSurface {
+class PrintSurface : public Interface {
   public:
-    virtual ~PrintSurface() = default;
-
     /// Face, size in points and weight of the next text.
     virtual void FontName(TextView face) = 0;
     virtual void FontSize(float points) = 0;
@@ -70,13 +69,6 @@ class PrintSurface {
     /// Faces that the current printer offers.
     [[nodiscard]] virtual std::size_t FontCount() const = 0;
     [[nodiscard]] virtual Text Fonts(std::size_t index) const = 0;
-
-  protected:
-    PrintSurface() = default;
-    PrintSurface(const PrintSurface&) = default;
-    PrintSurface(PrintSurface&&) = default;
-    PrintSurface& operator=(const PrintSurface&) = default;
-    PrintSurface& operator=(PrintSurface&&) = default;
 };
 
 } // namespace etiquetas

@@ -13,6 +13,9 @@
 #include "workbench/FrmPadrao.h"
 #include "workbench/Inicio.h"
 
+#include <algorithm>
+#include <array>
+
 namespace etiquetas {
 
 namespace {
@@ -103,7 +106,11 @@ Course printHidden(FrmPadrao& form) {
     return Course::goes_on;
 }
 
-// No label of this kind is drawn, so the item must not leave its list as a printed one.
+// Kinds whose labels this version does not draw yet.
+constexpr std::array<TextView, 3> kinds_to_come{u"Frente de Caixa100x40", tipo::frente_de_caixa,
+                                                tipo::acessorio};
+
+// An item that was not drawn must not leave its list as a printed one.
 Course refuseKind(FrmPadrao& form) {
     tell(form, u"Esta versão ainda não imprime este tipo de etiqueta.", Symbol::exclamation);
     return Course::ends;
@@ -118,16 +125,10 @@ Course printItem(FrmPadrao& form) {
         return Course::ends;
     }
     const Text& kind = form.cmbtipo.text;
-    if (kind == tipo::frente_de_caixa) {
+    if (std::find(kinds_to_come.begin(), kinds_to_come.end(), kind) != kinds_to_come.end()) {
         return refuseKind(form);
     }
-    if (kind == tipo::oculta) {
-        return printHidden(form);
-    }
-    if (kind == tipo::acessorio) {
-        return refuseKind(form);
-    }
-    return Course::goes_on;
+    return kind == tipo::oculta ? printHidden(form) : Course::goes_on;
 }
 
 // Takes the chosen item off its list, and one line off the order: the one at the same position,

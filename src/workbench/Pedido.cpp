@@ -92,11 +92,10 @@ void listFiles(FrmPadrao& form) {
     form.filelist.entries = std::move(names);
 }
 
-// The upper-cased name of the first listed file of the family; empty where there is none.
+// The first listed file of the family; empty where there is none.
 Text firstOfFamily(const FrmPadrao& form, const Family* family) {
-    for (const Text& listed : form.filelist.entries) {
-        Text name = upperCase(listed);
-        if (family != nullptr && name.find(family->word) != Text::npos) {
+    for (const Text& name : form.filelist.entries) {
+        if (family != nullptr && upperCase(name).find(family->word) != Text::npos) {
             return name;
         }
     }
@@ -123,10 +122,10 @@ void warn(FrmPadrao& form, Text message) {
 }
 
 // The bytes of the order's file as text; empty, and reported, where there is nothing to read. The
-// name was upper-cased, and reaches the file whatever the case of its own.
+// name is put in upper case, and reaches the file whatever the case of its own.
 Text readOrder(FrmPadrao& form, TextView name) {
     const Files& files = form.platform.files;
-    const auto path = findFile(files, form.lblpath.caption, name);
+    const auto path = findFile(files, form.lblpath.caption, upperCase(name));
     if (!path) {
         warn(form, u"O arquivo não existe!");
         return {};

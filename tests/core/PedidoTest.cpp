@@ -157,7 +157,7 @@ TEST_F(PedidoTest, ShortLinesAreToldOnce) {
     std::vector<Text> lines(10, u"12;short;line");
     lines.insert(lines.begin(), lineOf({}));
     const std::string told =
-        "exclamation, ok, : Há linhas incompletas no arquivo 77 FRENTE.TXT, que "
+        "exclamation, ok, : Há linhas incompletas no arquivo 77 Frente.txt, que "
         "não foram carregadas. Linhas: 3, 4, 5, 6, 7, 8, 9, 10, 11, 12";
     put(u"77 Frente.txt", orderFile(u"", lines));
     load(tipo::oculta, u"77");

@@ -1,6 +1,5 @@
 #include "PdfTools.h"
 
-#include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
@@ -13,39 +12,21 @@ namespace etiquetas::test {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr double millimetres_per_point = 25.4 / 72;
-
-double number(const QXmlStreamReader& xml, const QString& name) {
-    return xml.attributes().value(name).toDouble();
-}
-
-void addCharacter(std::vector<PdfText>& texts, const QXmlStreamReader& xml) {
-    PdfText& text = texts.back();
-    text.text += xml.attributes().value(u"c"_s);
-    text.origins.push_back(QPointF(number(xml, u"x"_s), number(xml, u"y"_s)) *
-                           millimetres_per_point);
-}
-
-} // namespace
-
-QByteArray outputOf(const QString& program, const QStringList& arguments) {
+QByteArray outputOf(const QString& command, const QStringList& files) {
+    QStringList arguments = command.split(u' ') + files;
     QProcess process;
-    process.start(program, arguments);
+    process.start(arguments.takeFirst(), arguments);
     constexpr int patience = 60'000; // milliseconds
     if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit) {
-        throw std::runtime_error("cannot run " + program.toStdString());
+        throw std::runtime_error("cannot run " + command.toStdString());
     }
     return process.readAllStandardOutput();
 }
 
 std::vector<QSizeF> pageSizes(const QString& pdf) {
-    const QString told =
-        QString::fromUtf8(outputOf(u"pdfinfo"_s, {u"-f"_s, u"1"_s, u"-l"_s, u"-1"_s, pdf}));
-    static const QRegularExpression line(u"^Page +\\d+ size: +([0-9.]+) x ([0-9.]+) pts"_s,
-                                         QRegularExpression::MultilineOption);
+    static const QRegularExpression line(u"Page +\\d+ size: +([0-9.]+) x ([0-9.]+) pts"_s);
     std::vector<QSizeF> sizes;
+    const auto told = QString::fromUtf8(outputOf(u"pdfinfo -f 1 -l -1"_s, {pdf}));
     for (const auto& match : line.globalMatch(told)) {
         sizes.emplace_back(match.captured(1).toDouble(), match.captured(2).toDouble());
     }
@@ -53,43 +34,41 @@ std::vector<QSizeF> pageSizes(const QString& pdf) {
 }
 
 std::vector<std::vector<PdfText>> pageTexts(const QString& pdf) {
-    QXmlStreamReader xml(
-        outputOf(u"mutool"_s, {u"draw"_s, u"-q"_s, u"-F"_s, u"stext"_s, u"-o"_s, u"-"_s, pdf}));
+    constexpr double millimetres_per_point = 25.4 / 72;
+    QXmlStreamReader xml(outputOf(u"mutool draw -q -F stext -o -"_s, {pdf}));
     std::vector<std::vector<PdfText>> pages;
     while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement) {
-            continue;
-        }
-        if (xml.name() == u"page"_s) {
+        xml.readNext();
+        const auto attributes = xml.attributes();
+        if (xml.isStartElement() && xml.name() == u"page"_s) {
             pages.emplace_back();
-        } else if (xml.name() == u"line"_s) {
+        } else if (xml.isStartElement() && xml.name() == u"line"_s) {
             pages.back().emplace_back();
-        } else if (xml.name() == u"char"_s) {
-            addCharacter(pages.back(), xml);
+        } else if (xml.isStartElement() && xml.name() == u"char"_s) {
+            const QPointF origin(attributes.value(u"x"_s).toDouble(),
+                                 attributes.value(u"y"_s).toDouble());
+            pages.back().back().text += attributes.value(u"c"_s);
+            pages.back().back().origins.push_back(origin * millimetres_per_point);
         }
     }
     return pages;
 }
 
 int storedImages(const QString& pdf) {
-    const QString told = QString::fromUtf8(outputOf(u"pdfimages"_s, {u"-list"_s, pdf}));
     constexpr int object_column = 10;
     QSet<QString> objects;
+    const auto told = QString::fromUtf8(outputOf(u"pdfimages -list"_s, {pdf}));
     for (const QString& line : told.split(u'\n', Qt::SkipEmptyParts).mid(2)) {
-        objects.insert(line.split(u' ', Qt::SkipEmptyParts).value(object_column));
+        objects.insert(line.simplified().section(u' ', object_column, object_column));
     }
     return static_cast<int>(objects.size());
 }
 
 QImage renderedPage(const QString& pdf, int page, int resolution, Tones tones) {
-    const QTemporaryDir folder;
-    const QString file = folder.filePath(u"page"_s);
-    const QString number = QString::number(page);
-    QStringList arguments{
-        u"-f"_s, number, u"-l"_s, number, u"-r"_s, QString::number(resolution), u"-singlefile"_s};
-    arguments << (tones == Tones::colours ? u"-png"_s : u"-mono"_s);
-    outputOf(u"pdftoppm"_s, arguments << pdf << file);
-    const QImage image(file + (tones == Tones::colours ? u".png"_s : u".pbm"_s));
+    const QString command = u"pdftoppm -png -singlefile -f %1 -l %1 -r %2"_s;
+    const QString mono = tones == Tones::black_and_white ? u" -mono"_s : QString();
+    QImage image =
+        QImage::fromData(outputOf(command.arg(page).arg(resolution) + mono, {pdf}), "PNG");
     if (image.isNull()) {
         throw std::runtime_error("no page " + std::to_string(page));
     }
@@ -100,7 +79,7 @@ QStringList symbolsIn(const QImage& image) {
     const QTemporaryDir folder;
     const QString file = folder.filePath(u"page.png"_s);
     image.save(file);
-    return QString::fromUtf8(outputOf(u"zbarimg"_s, {u"--quiet"_s, u"--raw"_s, file}))
+    return QString::fromUtf8(outputOf(u"zbarimg --quiet --raw"_s, {file}))
         .split(u'\n', Qt::SkipEmptyParts);
 }
 

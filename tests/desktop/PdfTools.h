@@ -1,10 +1,8 @@
 #pragma once
 
-#include <QByteArray>
 #include <QImage>
 #include <QPointF>
 #include <QSizeF>
-#include <QString>
 #include <QStringList>
 
 #include <vector>
@@ -21,8 +19,9 @@ struct PdfText {
     std::vector<QPointF> origins;
 };
 
-/// What a program writes to its standard output.
-QByteArray outputOf(const QString& program, const QStringList& arguments);
+/// What a program writes to its standard output. The command holds the program and its options,
+/// parted by blanks; the files follow them.
+QByteArray outputOf(const QString& command, const QStringList& files = {});
 
 /// Page sizes in points, read by poppler.
 [[nodiscard]] std::vector<QSizeF> pageSizes(const QString& pdf);

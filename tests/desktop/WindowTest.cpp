@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -202,6 +203,26 @@ TEST_F(WindowTest, walksItsListsByArrowAndLoadsThemWhenTheyAreLeft) {
     worker.press(Qt::Key_Tab);
     EXPECT_EQ(desktop->form().cmb_referencia.position, -1);
     EXPECT_EQ(worker.text(u"txtcor"_s), u"AZUL"_s);
+    worker.click(u"CMBPRINTER"_s);
+    worker.press(Qt::Key_Down);
+    EXPECT_EQ(worker.focused(), u"CMBPRINTER"_s);
+    worker.press(Qt::Key_Return);
+    EXPECT_EQ(worker.focused(), u"cmd_printacessorio"_s);
+}
+
+TEST_F(WindowTest, changesAListByTheWheelOnlyWhileItHasTheFocus) {
+    loadOrder();
+    auto& kinds = worker.widget<QComboBox>(u"cmbtipo"_s);
+    const auto turnWheel = [&] {
+        QWheelEvent turn({5, 5}, kinds.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&kinds, &turn);
+    };
+    turnWheel();
+    EXPECT_EQ(kinds.currentIndex(), oculta);
+    worker.click(u"cmbtipo"_s);
+    turnWheel();
+    EXPECT_EQ(kinds.currentIndex(), oculta - 1);
 }
 
 TEST_F(WindowTest, filtersKeysAndComposedTexts) {
