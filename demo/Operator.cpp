@@ -24,11 +24,14 @@ void settle() {
     QCoreApplication::processEvents();
 }
 
-// A window system gives the focus back to the window behind a closed box; headless, nobody does.
+// A window system gives the focus back to the window behind a closed box; headless, nobody does. A
+// display takes its time for it.
 void bringToFront(QWidget& window) {
     if (!window.isActiveWindow()) {
         window.activateWindow();
-        settle();
+        if (!QTest::qWaitForWindowActive(&window)) {
+            qWarning("The window does not come to the front.");
+        }
     }
 }
 
