@@ -72,11 +72,12 @@ std::string QtFiles::read(TextView path) const {
 }
 
 void QtFiles::replace(TextView path, std::string_view bytes) {
-    // Writes beside the file, forces the bytes to the disk and renames.
+    // Writes beside the file, forces the bytes to the disk and renames. The flush is what tells of
+    // a full disk: the commit would not, and put a cut-off file in the old one's place.
     QSaveFile file(toQString(path));
     const auto size = static_cast<qint64>(bytes.size());
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), size) != size ||
-        !file.commit()) {
+        !file.flush() || !file.commit()) {
         throw fileFailure(u"gravar o arquivo", path);
     }
 }

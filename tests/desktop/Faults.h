@@ -3,7 +3,6 @@
 #include "base/Failure.h"
 #include "desktop/QtText.h"
 
-#include <QScopeGuard>
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -12,16 +11,15 @@
 
 namespace etiquetas::test {
 
-/// While the result lives, no file can grow beyond so many bytes, as on a disk that is full.
-[[nodiscard]] inline auto smallDisk(rlim_t bytes) {
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit small{bytes, before.rlim_max};
+/// Does a deed that throws nothing while no file can grow beyond a kilobyte, as on a full disk.
+inline void onFullDisk(const std::function<void()>& deed) {
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit small{1000, limit.rlim_max};
+    std::signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &small);
-    return qScopeGuard([before, handler = std::signal(SIGXFSZ, SIG_IGN)] {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
-    });
+    deed();
+    setrlimit(RLIMIT_FSIZE, &limit);
 }
 
 /// The deed must fail with this number, and tell what it is about.

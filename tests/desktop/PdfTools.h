@@ -1,16 +1,14 @@
 #pragma once
 
 #include <QImage>
-#include <QPointF>
-#include <QSizeF>
 #include <QStringList>
 
 #include <vector>
 
 namespace etiquetas::test {
 
-// What other programs than our own find in a PDF file. Each function fails with a
-// std::runtime_error where its program can't be run.
+// What other programs than our own find in a PDF file. A program that can't be run fails the test
+// and finds nothing.
 
 /// One text of a page with its baseline origins, one for each character, in millimetres from the
 /// top-left corner of the page.
@@ -19,18 +17,14 @@ struct PdfText {
     std::vector<QPointF> origins;
 };
 
-/// What a program writes to its standard output. The command holds the program and its options,
-/// parted by blanks; the files follow them.
-QByteArray outputOf(const QString& command, const QStringList& files = {});
+/// What a command writes to its standard output; names with blanks stand in quotes.
+QByteArray outputOf(const QString& command);
 
 /// Page sizes in points, read by poppler.
 [[nodiscard]] std::vector<QSizeF> pageSizes(const QString& pdf);
 
 /// Texts of each page in drawing order, read by MuPDF.
 [[nodiscard]] std::vector<std::vector<PdfText>> pageTexts(const QString& pdf);
-
-/// Number of images that the file stores, read by poppler; one drawn twice counts once.
-[[nodiscard]] int storedImages(const QString& pdf);
 
 enum class Tones { black_and_white, colours };
 

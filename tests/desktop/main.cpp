@@ -2,9 +2,7 @@
 #include <gtest/gtest.h>
 
 int main(int count, char** arguments) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    setenv("QT_QPA_PLATFORM", "offscreen", 0); // unless another one is set
     const QApplication application(count, arguments);
     testing::InitGoogleTest(&count, arguments);
     return RUN_ALL_TESTS();
