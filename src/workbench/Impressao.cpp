@@ -116,7 +116,7 @@ Course refuseKind(FrmPadrao& form) {
     return Course::ends;
 }
 
-Course printItem(FrmPadrao& form) {
+Course printLabels(FrmPadrao& form) {
     if (!form.Frame1.visible) {
         return refuseKind(form);
     }
@@ -165,7 +165,7 @@ void cmd_printacessorio_click(FrmPadrao& form) {
     fecha_margens(form);
     form.txtbarra.text.clear();
     form.ImpressaoFeita = true;
-    if (printItem(form) == Course::ends) {
+    if (printLabels(form) == Course::ends) {
         return;
     }
     if (form.ImpressaoFeita && !confirmed(form, u"A Impressão está OK")) {
