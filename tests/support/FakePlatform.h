@@ -1,31 +1,31 @@
 #pragma once
 
+#include "base/CodePage.h"
 #include "base/Failure.h"
 #include "platform/Files.h"
 #include "platform/Focus.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Pictures.h"
-#include "platform/Platform.h"
 #include "platform/Pointer.h"
 #include "platform/PrintSurface.h"
 #include "platform/Printers.h"
 #include "platform/Process.h"
 #include "workbench/FrmPadrao.h"
+#include "workbench/Inicio.h"
 
-#include <deque>
+#include <array>
+#include <filesystem>
 #include <functional>
-#include <initializer_list>
+#include <iomanip>
 #include <map>
 #include <set>
-#include <string>
-#include <vector>
+#include <sstream>
 
 namespace etiquetas::test {
 
-/// What happened on the fakes, in order: one line each, a word and what it concerns, in UTF-8.
-using Log = std::vector<std::string>;
-
-std::string utf8(TextView text);
+inline std::string utf8(TextView text) {
+    return std::filesystem::path(text).string();
+}
 
 /// Number of the failure that a step ends with; 0 where it ends well.
 template <typename Step>
@@ -38,167 +38,187 @@ std::int32_t failureOf(Step&& step) {
     return 0;
 }
 
-struct Logging {
-    explicit Logging(Log& shared) : log(shared) {}
+inline Failure refusal() {
+    return {failure_number::file_access, u"fake", u"refused"};
+}
 
-    Log& log;
-};
+/// What happened on the fakes, in order: one line each, a word and what it concerns, in UTF-8.
+using Log = std::vector<std::string>;
 
-/// Files in memory, with names that are exact in their case.
-struct FakeFiles final : Files, Logging {
-    using Logging::Logging;
-
-    std::map<Text, std::string, std::less<>> bytes;
-    std::set<Text, std::less<>> folders{u"/programa"};
-    Text program_folder = u"/programa";
-    char16_t part_separator = u'/';
-    bool refuses_writes = false;
-    std::function<void()> on_write = [] {};
-
-    Text programFolder() const override { return program_folder; }
-    char16_t separator() const override { return part_separator; }
-    bool fileExists(TextView path) const override { return bytes.contains(path); }
-    bool folderExists(TextView path) const override { return folders.contains(path); }
-    std::vector<Text> filesIn(TextView folder) const override;
-    void makeFolder(TextView path) override;
-    void deleteFile(TextView path) override;
-    std::string read(TextView path) const override;
-    void replace(TextView path, std::string_view content) override;
-};
-
-struct FakePrinters final : Printers, Logging {
-    using Logging::Logging;
-
-    std::vector<Text> devices{u"Balcao", u"Etiquetas", u"Papel"};
-    bool fails = false;
-
-    std::vector<Text> names() const override;
-    Text defaultName() const override { return u"Papel"; }
-    void makeCurrent(std::size_t index) override;
-};
-
-/// Keeps its state as a real surface does; its log lines tell the state that a drawing has.
-struct FakePrintSurface final : PrintSurface, Logging {
-    using Logging::Logging;
-
-    std::vector<Text> faces{u"Malgun Gothic Semilight", u"CALIBRI ", u"Franklin Gothic Medium",
-                            u"Estrangelo Edessa"};
-    float character_width = 1; // at 7 points
-    std::string failing;       // the operation that fails, by the word of its log line
-    mutable std::string measured_in;
-    int pages = 0; // of the open job
-    std::vector<int> jobs;
-
-    void FontName(TextView face) override;
-    void FontSize(float points) override { points_ = points; }
-    void FontBold(bool bold) override { bold_ = bold; }
-    float FontSize() const override { return points_; }
-    void CurrentX(float x) override { x_ = x; }
-    void CurrentY(float y) override { y_ = y; }
-    void ScaleMode(etiquetas::ScaleMode mode) override;
-    void PaperSize(int kind) override { note("paper", std::to_string(kind)); }
-    void Width(int twips) override { note("width", std::to_string(twips)); }
-    void Height(int twips) override { note("height", std::to_string(twips)); }
-    void Print(TextView text) override;
-    float TextWidth(TextView text) const override;
-    void Line(int flags, float x1, float y1, float x2, float y2, Pixel colour) override;
-    using PrintSurface::PaintPicture;
-    void PaintPicture(const Picture& picture, float x, float y, float width, float height,
-                      const SourceArea& source) override;
-    void NewPage() override;
-    void EndDoc() override;
-    std::size_t FontCount() const override;
-    Text Fonts(std::size_t index) const override { return faces.at(index); }
-
-  private:
-    std::string font() const;
-    void note(const std::string& word, const std::string& rest) const;
-    void draw();
-
-    Text face_;
-    float points_ = 0;
-    bool bold_ = false;
-    float x_ = 0;
-    float y_ = 0;
-    int unit_ = 3;
-    bool page_open_ = false;
-};
-
-/// `shown` tells each message as "symbol, buttons, title: text".
-struct FakeMessageBoxes final : MessageBoxes, Logging {
-    using Logging::Logging;
-
-    Log shown;
-    std::deque<Answer> answers; // Yes once they have run out
-
-    Answer show(const Message& message) override;
-};
-
-/// A file that begins with "JPEG" is a picture. Letters are black boxes of 6 by 10 pixels.
-struct FakePictures final : Pictures, Logging {
-    FakePictures(Log& shared, const FakeFiles& machine) : Logging(shared), files(machine) {}
-
-    const FakeFiles& files;
-
-    Picture load(TextView path) override;
-    Raster text(TextView text) override;
-};
-
-struct FakeFocus final : Focus {
-    int forward = 0;
-    int backward = 0;
-
-    void tabForward() override { ++forward; }
-    void tabBackward() override { ++backward; }
-};
-
-struct FakePointer final : Pointer, Logging {
-    using Logging::Logging;
-
-    void busy() override { log.emplace_back("pointer busy"); }
-    void normal() override { log.emplace_back("pointer normal"); }
-};
-
-struct FakeProcess final : Process {
-    bool ended = false;
-
-    void end() override { ended = true; }
-};
-
-struct FakePlatform {
+/// Keeps the log of all fakes, and refuses the steps whose words are among the failing ones.
+struct Journal {
     Log log;
-    FakeFiles files{log};
-    FakePrinters printers{log};
-    FakePrintSurface surface{log};
-    FakeMessageBoxes messages{log};
-    FakePictures pictures{log, files};
-    FakeFocus focus;
-    FakePointer pointer{log};
-    FakeProcess process;
+    std::set<std::string> failing;
 
-    Platform platform() {
-        return {printers, surface, messages, pictures, files, focus, pointer, process};
+    // Five digits, so that what binary fractions leave behind does not show.
+    template <typename... Parts>
+    void note(const std::string& word, const Parts&... parts) {
+        if (failing.contains(word)) {
+            throw refusal();
+        }
+        std::ostringstream line;
+        line << std::setprecision(5) << word;
+        ((line << ' ' << parts), ...);
+        log.push_back(line.str());
     }
 
-    /// The lines of the log that begin with one of these words.
-    Log logged(std::initializer_list<std::string_view> words) const;
+    /// The lines that begin with one of these words.
+    Log logged(const std::set<std::string>& words) const {
+        Log lines = log;
+        std::erase_if(lines, [&](const std::string& line) {
+            return !words.contains(line.substr(0, line.find(' ')));
+        });
+        return lines;
+    }
+};
+
+struct Fake {
+    explicit Fake(Journal& shared) : journal(shared) {}
+
+    Journal& journal;
+};
+
+/// Files in memory, with names that are exact in their case, and the pictures in them: a file that
+/// begins with "JPEG" is one. Letters are black boxes of 6 by 10 pixels.
+struct FakeFiles final : Files, Pictures, Fake {
+    using Fake::Fake;
+
+    std::map<Text, std::string, std::less<>> bytes;
+    std::function<void()> on_write = [] {};
+
+    Text programFolder() const override { return u"/programa"; }
+    char16_t separator() const override { return u'/'; }
+    bool fileExists(TextView path) const override { return bytes.contains(path); }
+    bool folderExists(TextView path) const override { return !filesIn(path).empty(); }
+    std::vector<Text> filesIn(TextView folder) const override {
+        std::vector<Text> names;
+        for (const auto& [path, content] : bytes) {
+            if (path.starts_with(folder) && path.rfind(u'/') == folder.size()) {
+                names.push_back(path.substr(folder.size() + 1));
+            }
+        }
+        return names;
+    }
+    std::string read(TextView path) const override {
+        return fileExists(path) ? bytes.find(path)->second : throw refusal();
+    }
+    void makeFolder(TextView path) override { journal.note("folder", utf8(path)); }
+    void deleteFile(TextView path) override {
+        journal.note("delete", utf8(path));
+        bytes.erase(Text(path));
+    }
+    void replace(TextView path, std::string_view content) override {
+        journal.note("write", utf8(path));
+        bytes[Text(path)] = content;
+        on_write();
+    }
+
+    Picture load(TextView path) override {
+        journal.note("load", utf8(path));
+        return read(path).starts_with("JPEG") ? std::make_shared<const Raster>() : throw refusal();
+    }
+    Raster text(TextView text) override {
+        journal.note("letters", utf8(text));
+        const int width = 6 * static_cast<int>(text.size());
+        return {width, 10, std::vector<Pixel>(text.size() * 60, black_pixel)};
+    }
+};
+
+/// Printers and what they draw on. The surface keeps its state as a real one does; the log lines
+/// tell the state that a text has.
+struct FakePrinters final : Printers, PrintSurface, Fake {
+    using Fake::Fake;
+
+    std::vector<Text> devices{u"Balcao", u"Etiquetas", u"Papel"};
+    std::vector<Text> faces{u"Malgun Gothic Semilight", u"CALIBRI ", u"Franklin Gothic Medium",
+                            u"Estrangelo Edessa"};
+    std::string face, weight, unit;
+    float points = 0, x = 0, y = 0;
+
+    std::vector<Text> names() const override {
+        journal.note("printers");
+        return devices;
+    }
+    Text defaultName() const override { return u"Papel"; }
+    void makeCurrent(std::size_t at) override { journal.note("printer", utf8(devices.at(at))); }
+
+    void FontName(TextView name) override { face = utf8(name); }
+    void FontSize(float size) override { points = size; }
+    void FontBold(bool bold) override { weight = bold ? "bold" : "plain"; }
+    float FontSize() const override { return points; }
+    void CurrentX(float at) override { x = at; }
+    void CurrentY(float at) override { y = at; }
+    void ScaleMode(etiquetas::ScaleMode mode) override {
+        unit = mode == ScaleMode::millimetres ? "mm" : "pixels";
+        journal.note("unit", unit);
+    }
+    void PaperSize(int kind) override { journal.note("paper", kind); }
+    void Width(int twips) override { journal.note("width", twips); }
+    void Height(int twips) override { journal.note("height", twips); }
+    void Print(TextView text) override {
+        journal.note("print", face, points, weight, "at", x, y, unit, utf8(text));
+    }
+    /// One unit a character at 7 points.
+    float TextWidth(TextView text) const override {
+        journal.note("measure", face, points);
+        return static_cast<float>(text.size()) * points / 7.0F;
+    }
+    void Line(int, float, float, float, float, Pixel) override { journal.note("line"); }
+    using PrintSurface::PaintPicture;
+    void PaintPicture(const Picture& picture, float left, float top, float width, float height,
+                      const SourceArea&) override {
+        journal.note("stamp", picture->width, picture->height, left, top, width, height, unit);
+    }
+    void NewPage() override { journal.note("page"); }
+    void EndDoc() override { journal.note("end"); }
+    std::size_t FontCount() const override {
+        journal.note("faces");
+        return faces.size();
+    }
+    Text Fonts(std::size_t index) const override { return faces.at(index); }
+};
+
+struct FakePlatform : Journal, MessageBoxes, Focus, Pointer, Process {
+    FakeFiles files{*this};
+    Pictures& pictures = files;
+    FakePrinters printers{*this};
+    Answer answer = Answer::yes;
+
+    Platform platform() { return {printers, printers, *this, files, files, *this, *this, *this}; }
+
+    Answer show(const Message& message) override {
+        constexpr std::array symbols{"none", "stop", "question", "exclamation"};
+        note("message", symbols.at(static_cast<std::size_t>(message.symbol)),
+             message.buttons == Buttons::yes_no ? "yes/no" : "ok", "[" + utf8(message.title) + "]",
+             utf8(message.text));
+        return answer;
+    }
+    void tabForward() override { note("focus forward"); }
+    void tabBackward() override { note("focus backward"); }
+    void busy() override { note("pointer busy"); }
+    void normal() override { note("pointer normal"); }
+    void end() override { note("exit"); }
 };
 
 /// A line of a box order, `rest` being the fields behind the master code.
 struct BoxLine {
-    Text quantity = u"12";
-    Text size = u"34";
-    Text barcode = u"204455667788";
-    Text master = u"3104527001";
-    Text description = u"TENIS CASUAL";
-    Text colour = u"AZUL";
-    std::vector<Text> rest{u"202611", u"FAIXA A", u"OFERTA"};
+    Text quantity = u"12", size = u"34", barcode = u"204455667788", master = u"3104527001";
+    Text description = u"TENIS CASUAL", colour = u"AZUL", rest = u"202611;FAIXA A;OFERTA";
 };
 
-Text lineOf(const BoxLine& line);
+inline Text lineOf(const BoxLine& line) {
+    return line.quantity + u";" + line.colour + u";" + line.size + u";;" + line.description + u";" +
+           line.barcode + u";" + line.master + u";" + line.rest;
+}
 
-/// The bytes of an order file: a header and lines in code page 1252, each ended by CR LF.
-std::string orderFile(TextView header, const std::vector<Text>& lines);
+/// The bytes of a file in code page 1252, each of its lines ended by CR LF.
+inline std::string fileOf(const std::vector<Text>& lines) {
+    std::string bytes;
+    for (const Text& line : lines) {
+        bytes += toCodePage1252(line + u"\r\n");
+    }
+    return bytes;
+}
 
 /// The window before it has been loaded, and the machine that it stands on.
 struct Workbench {
@@ -206,9 +226,12 @@ struct Workbench {
     FrmPadrao form{machine.platform()};
 };
 
-/// The window once it has been loaded, with both logos and all faces there; the log is empty.
+/// The window once it has been loaded; the log is empty.
 struct LoadedWorkbench : Workbench {
-    LoadedWorkbench();
+    LoadedWorkbench() {
+        FrmPadrao_load(form);
+        machine.log.clear();
+    }
 };
 
 } // namespace etiquetas::test
