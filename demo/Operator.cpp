@@ -8,8 +8,6 @@
 #include <QPushButton>
 #include <QtTest/QTest>
 
-#include <algorithm>
-
 namespace etiquetas {
 
 namespace {
@@ -117,16 +115,8 @@ void Operator::answer() {
     }
     look_();
     boxes_.push_back({box->windowTitle(), box->text()});
-    const auto refused = std::find_if(refused_.begin(), refused_.end(), [&](const QString& text) {
-        return box->text().contains(text);
-    });
-    if (refused != refused_.end()) {
-        refused_.erase(refused);
-        box->button(QMessageBox::No)->click();
-    } else {
-        box->defaultButton() != nullptr ? box->defaultButton()->click()
-                                        : box->buttons().first()->click();
-    }
+    QPushButton* const proposed = box->defaultButton();
+    proposed != nullptr ? proposed->click() : box->buttons().first()->click();
 }
 
 QWidget& Operator::focusedWidget() const {

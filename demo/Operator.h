@@ -18,7 +18,7 @@ struct SeenBox {
 };
 
 /// Works a real Workbench window as an operator does: by keys and clicks on its widgets, and by
-/// answers to its message boxes.
+/// OK or Yes to its message boxes.
 class Operator {
   public:
     /// Starts answering message boxes at once, so that one can watch over a start-up.
@@ -51,8 +51,6 @@ class Operator {
         return *desktop_->window().findChild<Widget*>(name);
     }
 
-    /// Answers the next boxes with No that hold this text; any other box gets OK or Yes.
-    void answerNoTo(const QString& text) { refused_.push_back(text); }
     /// What runs while a box stands, before it is answered.
     void beforeAnswer(std::function<void()> look) { look_ = std::move(look); }
     /// The boxes since the last call.
@@ -65,7 +63,6 @@ class Operator {
     Desktop* desktop_ = nullptr;
     QTimer watch_;
     std::vector<SeenBox> boxes_;
-    std::vector<QString> refused_;
     std::function<void()> look_ = [] {};
 };
 
