@@ -1,6 +1,6 @@
 #include "barcodes/EAN13and8.h"
 
-#include "base/Failure.h"
+#include "barcodes/BarFailure.h"
 #include "base/Numbers.h"
 
 #include <array>
@@ -30,17 +30,12 @@ constexpr std::size_t first_right_digit = 8;
 constexpr int quiet_pixels = 10;
 constexpr int guard_pixels = 5;
 
-Failure refusal(Text description) {
-    constexpr std::uint32_t number = 0x80040201;
-    return {static_cast<std::int32_t>(number), u"EAN-13", std::move(description)};
-}
-
 void checkText(TextView texto) {
     if (texto.size() != digit_count) {
-        throw refusal(u"Should be 12 Digit Numbers");
+        throw barFailure(u"EAN-13", u"Should be 12 Digit Numbers");
     }
     if (texto.find_first_not_of(u"0123456789") != TextView::npos) {
-        throw refusal(u"An Invalid Character Found in Bar Text");
+        throw barFailure(u"EAN-13", invalid_character);
     }
 }
 

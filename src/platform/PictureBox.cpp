@@ -72,6 +72,14 @@ void PictureBox::Print(TextView text) {
     }
 }
 
+int PictureBox::TextWidth(TextView text) const {
+    return pictures_->text(text).width;
+}
+
+int PictureBox::TextHeight(TextView text) const {
+    return pictures_->text(text).height;
+}
+
 void PictureBox::resize() {
     // What was drawn stays only while the size does: every drawing sets its size first.
     drawn_.width = pixelsOf(width_);

@@ -43,6 +43,9 @@ class PictureBox {
     void Line(int x1, int y1, int x2, int y2, Pixel colour);
     /// The text with its top-left corner at (`CurrentX`, `CurrentY`).
     void Print(TextView text);
+    /// Size of a text in pixels.
+    [[nodiscard]] int TextWidth(TextView text) const;
+    [[nodiscard]] int TextHeight(TextView text) const;
 
   private:
     void resize();
