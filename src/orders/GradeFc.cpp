@@ -3,10 +3,8 @@
 #include "orders/Complemento.h"
 #include "orders/ItemSlots.h"
 #include "orders/OrderFormat.h"
-#include "platform/MessageBoxes.h"
 #include "workbench/FrmPadrao.h"
 
-#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -31,13 +29,6 @@ constexpr std::array<BoxLayout, 4> layouts{{
     {.width = 12, .price = {}, .week = 7, .week_suffix = 10, .banner = 8, .promotion = 9},
     {.width = 13, .price = 7, .week = 8, .week_suffix = 10, .banner = 9, .promotion = 11},
 }};
-
-const BoxLayout* layoutOf(const OrderLine& line) {
-    const auto* const found =
-        std::find_if(layouts.begin(), layouts.end(),
-                     [&](const BoxLayout& layout) { return layout.width == line.width(); });
-    return found == layouts.end() ? nullptr : found;
-}
 
 bool belongsTo(const OrderLine& line, const ItemKey& item) {
     return left(trimmed(line[box_field::master]), product_code_length) == item.code &&
@@ -64,40 +55,20 @@ void fillItemFields(FrmPadrao& form, const OrderLine& line, const BoxLayout& lay
     form.txtpromocao.text = line[layout.promotion];
 }
 
-// Gives the line the first free slot; false when all are taken. A blank size leaves its slot free.
-bool fillSlot(FrmPadrao& form, const OrderLine& line) {
-    auto* const free = std::find_if(form.Label7.begin(), form.Label7.end(),
-                                    [](const Label& size) { return isBlank(size.caption); });
-    if (free == form.Label7.end()) {
-        return false;
-    }
-    free->caption = line[box_field::size];
-    form.txtnumero[static_cast<std::size_t>(free - form.Label7.begin())].text =
-        line[box_field::quantity];
-    return true;
-}
-
-void reportFullSlots(FrmPadrao& form) {
-    form.platform.messages.show(
-        {.text = u"Erro ao Preencher Dados.. Contate a Varesko e comunique o Erro no Pedido " +
-                 form.txtarquivo.text,
-         .symbol = Symbol::exclamation});
-}
-
 void fillFromLines(FrmPadrao& form, const ItemKey& item) {
     std::size_t count = 0;
     for (const Text& text : form.List1.entries) {
         const OrderLine line(text);
-        const BoxLayout* const layout = layoutOf(line);
+        const BoxLayout* const layout = layoutOf(line, layouts);
         if (layout == nullptr || !belongsTo(line, item)) {
             continue;
         }
         if (count == 0) {
             fillItemFields(form, line, *layout);
         }
-        const bool achou = fillSlot(form, line);
+        const bool achou = preenche_grade(form, line[box_field::size], line[box_field::quantity]);
         if (!achou) {
-            reportFullSlots(form);
+            avisa_grade_cheia(form);
         }
         ++count;
     }

@@ -2,7 +2,10 @@
 
 #include "base/Failure.h"
 #include "base/Numbers.h"
+#include "platform/MessageBoxes.h"
 #include "workbench/FrmPadrao.h"
+
+#include <algorithm>
 
 namespace etiquetas {
 
@@ -39,6 +42,24 @@ void OCULTA_ITENS(FrmPadrao& form) {
         form.txtnumero[i].text.clear();
         form.txtnumero[i].visible = false;
     }
+}
+
+bool preenche_grade(FrmPadrao& form, TextView size, TextView quantity) {
+    auto* const free = std::find_if(form.Label7.begin(), form.Label7.end(),
+                                    [](const Label& slot) { return isBlank(slot.caption); });
+    if (free == form.Label7.end()) {
+        return false;
+    }
+    free->caption = size;
+    form.txtnumero[static_cast<std::size_t>(free - form.Label7.begin())].text = quantity;
+    return true;
+}
+
+void avisa_grade_cheia(FrmPadrao& form) {
+    form.platform.messages.show(
+        {.text = u"Erro ao Preencher Dados.. Contate a Varesko e comunique o Erro no Pedido " +
+                 form.txtarquivo.text,
+         .symbol = Symbol::exclamation});
 }
 
 void EXIBE_ITENS(FrmPadrao& form) {

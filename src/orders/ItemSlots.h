@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
+
 namespace etiquetas {
 
 struct FrmPadrao;
@@ -10,6 +12,13 @@ void soma(FrmPadrao& form);
 
 /// Empties and hides the 14 size slots.
 void OCULTA_ITENS(FrmPadrao& form);
+
+/// Gives a size and its quantity the first free slot; false when all are taken. A blank size leaves
+/// its slot free.
+bool preenche_grade(FrmPadrao& form, TextView size, TextView quantity);
+
+/// Tells the operator that a size of the order found no slot.
+void avisa_grade_cheia(FrmPadrao& form);
 
 /// Shows and unlocks the filled size slots, adds `txtlote` to each quantity while the options panel
 /// shows, and totals them. Fails where a number does not convert or leaves 16 bits.

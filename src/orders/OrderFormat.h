@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -23,6 +24,18 @@ class OrderLine {
   private:
     std::vector<TextView> fields_;
 };
+
+/// The layout of the line's width in a table of layouts; nothing where the table has none.
+template <typename Layout, std::size_t count>
+[[nodiscard]] const Layout* layoutOf(const OrderLine& line,
+                                     const std::array<Layout, count>& layouts) {
+    for (const Layout& layout : layouts) {
+        if (layout.width == line.width()) {
+            return &layout;
+        }
+    }
+    return nullptr;
+}
 
 /// Where the three parts of an item key stand in a line of one file kind.
 struct ItemKeyFields {
@@ -60,17 +73,31 @@ inline constexpr std::size_t master = 6;
 
 /// Fields that stand in the same place in every accessory line.
 namespace accessory_field {
+inline constexpr std::size_t quantity = 0;
 inline constexpr std::size_t colour = 1;
+inline constexpr std::size_t size = 2;
 inline constexpr std::size_t description = 3;
+inline constexpr std::size_t week = 4;
+inline constexpr std::size_t banner = 5;
 inline constexpr std::size_t barcode = 6;
 inline constexpr std::size_t master = 7;
 } // namespace accessory_field
+
+/// Fields that stand in the same place in every corrugated line.
+namespace corrugated_field {
+inline constexpr std::size_t quantity = 0;
+inline constexpr std::size_t master = 2;
+inline constexpr std::size_t supplier = 3;
+inline constexpr std::size_t colour = 4;
+inline constexpr std::size_t description = 5;
+} // namespace corrugated_field
 
 inline constexpr ItemKeyFields box_key{box_field::master, product_code_length,
                                        box_field::description, box_field::colour};
 inline constexpr ItemKeyFields accessory_key{accessory_field::master, product_code_length,
                                              accessory_field::description, accessory_field::colour};
-inline constexpr ItemKeyFields corrugated_key{6, TextView::npos, 5, 4};
+inline constexpr ItemKeyFields corrugated_key{6, TextView::npos, corrugated_field::description,
+                                              corrugated_field::colour};
 
 /// The lines of a file, ended by CR LF, CR or LF, the last one with or without an end.
 [[nodiscard]] std::vector<TextView> linesOf(TextView file);

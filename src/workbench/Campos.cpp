@@ -2,6 +2,8 @@
 
 #include "base/Failure.h"
 #include "base/Numbers.h"
+#include "orders/GradeAcessorio.h"
+#include "orders/GradeCorrugado.h"
 #include "orders/GradeFc.h"
 #include "orders/ItemSlots.h"
 #include "platform/Focus.h"
@@ -114,7 +116,12 @@ void cmb_referencia_leave(FrmPadrao& form) {
     }
     // The caption is the switch, not the kind: a changed kind without a reload keeps the loader.
     const Text& family = form.Frame1.caption;
-    if (family != tipo::acessorio && family != tipo::corrugado) {
+    if (family == tipo::acessorio) {
+        carrega_grade_Acessorio(form);
+        oculta_objetos(form);
+    } else if (family == tipo::corrugado) {
+        carrega_corrugado(form);
+    } else {
         carrega_gradeFc(form);
         oculta_objetos(form);
     }
@@ -130,6 +137,9 @@ KeyCode cmb_referencia1_key(FrmPadrao& form, KeyCode key) {
 
 void cmb_referencia1_leave(FrmPadrao& form) {
     form.KeyPreview = true;
+    if (!isBlank(form.cmb_referencia1.text)) {
+        carrega_corrugado(form);
+    }
 }
 
 void txtarquivo_enter(FrmPadrao& form) {

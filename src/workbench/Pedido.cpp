@@ -3,6 +3,8 @@
 #include "base/CodePage.h"
 #include "base/Numbers.h"
 #include "config/Settings.h"
+#include "orders/GradeAcessorio.h"
+#include "orders/GradeCorrugado.h"
 #include "orders/GradeFc.h"
 #include "orders/ItemSlots.h"
 #include "orders/OrderFormat.h"
@@ -27,8 +29,8 @@ struct Family {
     Panel FrmPadrao::*shown;
     Panel FrmPadrao::*hidden;
     TextView caption; // of `Frame1`; empty leaves it
-    /// Loads the chosen item; a family without one only lists its items.
     void (*load)(FrmPadrao&);
+    bool loads_blank_item;
 };
 
 void loadBoxItem(FrmPadrao& form) {
@@ -36,13 +38,18 @@ void loadBoxItem(FrmPadrao& form) {
     oculta_objetos(form);
 }
 
+void loadAccessory(FrmPadrao& form) {
+    carrega_grade_Acessorio(form);
+    oculta_objetos(form);
+}
+
 constexpr std::array<Family, 3> families{{
     {u"A", u"FRENTE", box_key, &FrmPadrao::cmb_referencia, &FrmPadrao::Frame1, &FrmPadrao::Frame3,
-     u"Caixa / Oculta", loadBoxItem},
+     u"Caixa / Oculta", loadBoxItem, false},
     {u"B", u"CORRUGADO", corrugated_key, &FrmPadrao::cmb_referencia1, &FrmPadrao::Frame3,
-     &FrmPadrao::Frame1, u"", nullptr},
+     &FrmPadrao::Frame1, u"", carrega_corrugado, true},
     {u"C", u"ACESSORIO", accessory_key, &FrmPadrao::cmb_referencia, &FrmPadrao::Frame1,
-     &FrmPadrao::Frame3, u"Acessório", nullptr},
+     &FrmPadrao::Frame3, u"Acessório", loadAccessory, false},
 }};
 
 struct KindFamily {
@@ -200,7 +207,7 @@ void loadFirstItem(FrmPadrao& form, const Family& family) {
         return;
     }
     items.choose(0);
-    if (family.load != nullptr && !isBlank(items.text)) {
+    if (family.loads_blank_item || !isBlank(items.text)) {
         family.load(form);
     }
 }

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace etiquetas {
+
+struct FrmPadrao;
+
+/// Fills the Workbench with the accessory chosen in `cmb_referencia`: the item fields and the
+/// quantity from its first line in `List1`. Lines of width 11 take a size slot each, and the one
+/// beyond the last slot is reported. Where no line matches, the item fields keep the values of the
+/// item before.
+void carrega_grade_Acessorio(FrmPadrao& form);
+
+} // namespace etiquetas

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace etiquetas {
+
+struct FrmPadrao;
+
+/// Fills the corrugated panel with the pack chosen in `cmb_referencia1`, from its first line in
+/// `List1`, and offers its carton numbers in `cmb_vol1` and `cmb_vol2`; `lblmax` takes the last
+/// one. Where no line matches, all of it is empty. Fails where a carton number is no number or
+/// leaves 16 bits.
+void carrega_corrugado(FrmPadrao& form);
+
+} // namespace etiquetas
