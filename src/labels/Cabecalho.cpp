@@ -1,6 +1,6 @@
 #include "labels/Cabecalho.h"
 
-#include "labels/LabelText.h"
+#include "labels/LabelLayout.h"
 #include "workbench/FrmPadrao.h"
 
 namespace etiquetas {

@@ -25,6 +25,19 @@ inline constexpr std::array<Margin, 3> margens_oculta{{
     {u"Margem_oculta2", &FrmPadrao::Margem_oculta2, 3.0F},
 }};
 
+/// Margins of the 40 by 45 mm labels: left of column 1, left of column 2, top.
+inline constexpr std::array<Margin, 3> margens_caixa{{
+    {u"Mx4045_1", &FrmPadrao::Mx4045_1, 0.0F},
+    {u"Mx4045_2", &FrmPadrao::Mx4045_2, 40.0F},
+    {u"Mx4045", &FrmPadrao::Mx4045, 3.0F},
+}};
+
+/// Margins of the carton label: left, top.
+inline constexpr std::array<Margin, 2> margens_pack{{
+    {u"PackX", &FrmPadrao::PackX, 3.0F},
+    {u"PackY", &FrmPadrao::PackY, 3.0F},
+}};
+
 /// A page size in twips (1,440 to the inch).
 struct PageSize {
     int width;
@@ -33,6 +46,12 @@ struct PageSize {
 
 /// A strip of two 40 by 20 mm labels, 158.75 by 21.17 mm with its edges.
 inline constexpr PageSize pagina_oculta{9000, 1200};
+
+/// A strip of two 40 by 45 mm labels, 158.75 by 46.92 mm with its edges.
+inline constexpr PageSize pagina_caixa{9000, 2660};
+
+/// A carton label, 158.75 mm square with its edges.
+inline constexpr PageSize pagina_pack{9000, 9000};
 
 /// Makes the printer of that device name the one that the next job goes to; the name must match
 /// exactly. False where there is none, and the current printer stays.

@@ -5,10 +5,14 @@
 
 namespace etiquetas {
 
+// What label layouts are made of, and how their pieces are drawn. Millimetres, in single precision.
+
 /// Faces of the label texts.
 namespace face {
 inline constexpr TextView calibri = u"Calibri";
 inline constexpr TextView franklin_medium = u"Franklin Gothic Medium";
+inline constexpr TextView franklin_semilight = u"Franklin Gothic Semilight";
+inline constexpr TextView malgun_semilight = u"Malgun Gothic Semilight";
 } // namespace face
 
 /// Face, weight and size in points of a text.
@@ -18,10 +22,17 @@ struct Font {
     float points;
 };
 
-/// A place on the surface, millimetres.
+/// A place on the surface, or one from the label's origin.
 struct Point {
     float x;
     float y;
+};
+
+/// A box on the surface, or one from the label's origin.
+struct Box {
+    Point corner;
+    float width;
+    float height;
 };
 
 /// A text of a layout: its font, and where its top-left corner stands from the label's origin.
@@ -30,6 +41,22 @@ struct TextItem {
     Point offset;
 };
 
+/// A ruled line of a layout: a black box between two corners.
+struct Rule {
+    Point first;
+    Point second;
+};
+
+/// The place at an offset from the origin.
+[[nodiscard]] constexpr Point at(const Point& origin, const Point& offset) {
+    return {origin.x + offset.x, origin.y + offset.y};
+}
+
+/// The box with its corner at an offset from the origin.
+[[nodiscard]] constexpr Box at(const Point& origin, const Box& box) {
+    return {at(origin, box.corner), box.width, box.height};
+}
+
 /// Sets face, size and weight of the next text.
 inline void useFont(PrintSurface& surface, const Font& font) {
     surface.FontName(font.face);
@@ -37,7 +64,8 @@ inline void useFont(PrintSurface& surface, const Font& font) {
     surface.FontBold(font.bold);
 }
 
-/// Prints a text with its top-left corner at a place, in the font that is set.
+/// Prints a text with its top-left corner at a place, in the font that is set. An empty text draws
+/// nothing.
 inline void printAt(PrintSurface& surface, const Point& place, TextView text) {
     surface.CurrentX(place.x);
     surface.CurrentY(place.y);
@@ -48,7 +76,14 @@ inline void printAt(PrintSurface& surface, const Point& place, TextView text) {
 inline void printItem(PrintSurface& surface, const TextItem& item, const Point& origin,
                       TextView text) {
     useFont(surface, item.font);
-    printAt(surface, {origin.x + item.offset.x, origin.y + item.offset.y}, text);
+    printAt(surface, at(origin, item.offset), text);
+}
+
+/// Draws a ruled line of a layout.
+inline void drawRule(PrintSurface& surface, const Rule& rule, const Point& origin) {
+    const Point first = at(origin, rule.first);
+    const Point second = at(origin, rule.second);
+    surface.Line(filled_box, first.x, first.y, second.x, second.y, black_pixel);
 }
 
 } // namespace etiquetas

@@ -1,8 +1,9 @@
 #include "labels/Oculta.h"
 
 #include "base/Numbers.h"
+#include "labels/LabelLayout.h"
+#include "labels/LabelStamps.h"
 #include "labels/LabelStrip.h"
-#include "labels/LabelText.h"
 #include "workbench/FrmPadrao.h"
 
 #include <algorithm>
@@ -108,9 +109,7 @@ void drawCodes(FrmPadrao& form, const HiddenLabel& label, const Point& origin) {
     printItem(surface, item_ref3, origin, label.ref3);
     surface.FontBold(false);
     desenha_barras(form, label.barra);
-    carimba_barras(form, {{origin.x + item_bars.corner.x, origin.y + item_bars.corner.y},
-                          item_bars.width,
-                          item_bars.height});
+    carimba_barras(form, at(origin, item_bars));
     printItem(surface, item_master, origin, label.master);
     printItem(surface, item_digits_left, origin, mid(form.txtbarra.text, 1, 6));
     printItem(surface, item_digits_right, origin, mid(form.txtbarra.text, 7, 7));

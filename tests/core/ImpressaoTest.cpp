@@ -87,26 +87,18 @@ TEST_F(ImpressaoTest, ChecksComeInOrderAndDrawNothing) {
         "message question yes/no [] O Item está sem COR!, Imprimir mesmo assim";
     const std::string no_hidden =
         "message exclamation ok [] Quantidade de Etiquetas Ocultas - Inválida";
-    const std::string no_kind =
-        "message exclamation ok [] Esta versão ainda não imprime este tipo de etiqueta.";
     Text& kind = form.cmbtipo.text;
     using Case = std::tuple<Text&, TextView, Answer, Log>;
     for (const auto& [field, text, answer, messages] :
          {Case{form.TXTOCULTAS.text, u" ", Answer::yes, {no_hidden}},
           Case{form.txtcor.text, u" ", Answer::no, {no_colour}},
           Case{form.txtcor.text, u"", Answer::yes, {no_colour, no_hidden}},
-          Case{kind, tipo::frente_de_caixa, Answer::yes, {no_kind}},
-          Case{kind, u"Frente de Caixa100x40", Answer::yes, {no_kind}},
-          Case{kind, tipo::acessorio, Answer::yes, {no_kind}},
           Case{kind, u"Outro", Answer::no, {closing}},
           Case{form.txtcodigo.text, u" ", Answer::yes, {"message none ok [] Código Inválido"}}}) {
         field = text;
         printed(answer);
         EXPECT_EQ(machine.log, messages);
     }
-    form.Frame1.visible = false;
-    printed(Answer::yes);
-    EXPECT_EQ(machine.log, Log{no_kind});
     EXPECT_EQ(left(), (Counts{2, 3}));
 }
 

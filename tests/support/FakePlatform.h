@@ -14,6 +14,7 @@
 #include "workbench/Inicio.h"
 
 #include <array>
+#include <cmath>
 #include <filesystem>
 #include <functional>
 #include <iomanip>
@@ -163,11 +164,21 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
         journal.note("measure", face, points);
         return static_cast<float>(text.size()) * points / 7.0F;
     }
-    void Line(int, float, float, float, float, Pixel) override { journal.note("line"); }
+    void Line(int flags, float x1, float y1, float x2, float y2, Pixel colour) override {
+        journal.note(flags == filled_box && colour == black_pixel ? "rule" : "line", x1, y1, x2, y2,
+                     unit);
+    }
     using PrintSurface::PaintPicture;
     void PaintPicture(const Picture& picture, float left, float top, float width, float height,
-                      const SourceArea&) override {
-        journal.note("stamp", picture->width, picture->height, left, top, width, height, unit);
+                      const SourceArea& source) override {
+        if (picture) {
+            std::string crop = source.x || source.y || source.height ? " ?" : "";
+            if (source.width) {
+                crop += " crop " + std::to_string(std::lround(*source.width));
+            }
+            journal.note("stamp", picture->width, picture->height, left, top, width, height,
+                         unit + crop);
+        }
     }
     void NewPage() override { journal.note("page"); }
     void EndDoc() override { journal.note("end"); }

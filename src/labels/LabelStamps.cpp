@@ -1,0 +1,48 @@
+#include "labels/LabelStamps.h"
+
+#include "barcodes/EAN13and8.h"
+#include "workbench/FrmPadrao.h"
+
+namespace etiquetas {
+
+namespace {
+
+void drawInPixels(FrmPadrao& form) {
+    desenha_ean(form);
+    form.platform.surface.ScaleMode(ScaleMode::millimetres);
+}
+
+} // namespace
+
+void desenha_ean(FrmPadrao& form) {
+    constexpr std::int16_t escala = 1;
+    constexpr std::size_t digits_drawn = 12;
+    DesenhaEan13(form.Picture1, escala, left(form.txtbarra.text, digits_drawn), false);
+}
+
+void desenha_barras(FrmPadrao& form) {
+    form.platform.surface.ScaleMode(ScaleMode::pixels);
+    drawInPixels(form);
+}
+
+void desenha_barras(FrmPadrao& form, TextView barra) {
+    form.platform.surface.ScaleMode(ScaleMode::pixels);
+    form.txtbarra.text = barra;
+    drawInPixels(form);
+}
+
+void carimba_barras(FrmPadrao& form, const Box& box) {
+    form.platform.surface.PaintPicture(form.Picture1.Picture(), box.corner.x, box.corner.y,
+                                       box.width, box.height);
+}
+
+void carimba_logo(FrmPadrao& form, TextView flag, const LogoLayout& layout, const Point& origin) {
+    const bool lumira = flag == u"L";
+    const LogoItem& logo = lumira ? layout.lumira : layout.brisako;
+    const Picture& picture = (lumira ? form.pctlogo2 : form.pctlogo1).picture;
+    const Box box = at(origin, logo.box);
+    form.platform.surface.PaintPicture(picture, box.corner.x, box.corner.y, box.width, box.height,
+                                       SourceArea{.width = logo.source_width});
+}
+
+} // namespace etiquetas
