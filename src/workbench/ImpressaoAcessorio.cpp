@@ -1,0 +1,31 @@
+#include "base/Numbers.h"
+#include "labels/Acessorio.h"
+#include "workbench/ImpressaoRamos.h"
+
+namespace etiquetas {
+
+namespace {
+
+// All labels of the item. The barcode is the one that the loader left.
+void printItem(FrmPadrao& form) {
+    Imprime_Acessorio_40_20_2(form, form.marca_logo, descricao_cor(form), ref3(form),
+                              form.txtcodigo.text, form.lblbarra.caption, form.TXTPARES.text,
+                              form.txtpreco.text, toInteger16(form.TXTPARES.text),
+                              form.txtbandeira.text, form.txtsemana.text, form.txtpromocao.text);
+}
+
+} // namespace
+
+Course imprime_acessorios(FrmPadrao& form) {
+    if (testa_logos(form) == Course::ends) {
+        return Course::ends;
+    }
+    testa_descricao(form, form.txtdescricao); // told only: the labels are printed all the same
+    inicia_trabalho_40x20(form);
+    completa_preco(form);
+    skip([&] { printItem(form); });
+    encerra_trabalho(form);
+    return Course::goes_on;
+}
+
+} // namespace etiquetas

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "base/Failure.h"
+#include "base/Text.h"
+#include "orders/Complemento.h"
+#include "platform/MessageBoxes.h"
+#include "workbench/FrmPadrao.h"
+
+#include <cstdint>
+
+namespace etiquetas {
+
+// What the branches of the Print command share: each label kind has one. A step that fails is
+// passed over.
+
+/// Whether the Print command goes on behind a step, to its closing question in the end.
+enum class Course : std::uint8_t { goes_on, ends };
+
+/// Tells the operator something.
+void avisa(FrmPadrao& form, Text text, Symbol symbol = Symbol::none);
+
+/// Asks the operator; true only on Yes.
+[[nodiscard]] bool confirma(FrmPadrao& form, Text question);
+
+/// An item without a colour is printed only when the operator wants it so.
+[[nodiscard]] Course pergunta_cor(FrmPadrao& form, const TextField& colour);
+
+/// Both logos must have been loaded, whichever banner the order has.
+[[nodiscard]] Course testa_logos(FrmPadrao& form);
+
+/// Ends the command where the item has no code.
+[[nodiscard]] Course testa_codigo(FrmPadrao& form, const TextField& code);
+
+/// Tells the operator where no item is chosen. Not every branch ends then.
+Course testa_descricao(FrmPadrao& form, const TextField& description);
+
+/// Selects the printer that the operator chose; where it is gone the current one stays.
+void seleciona_escolhida(FrmPadrao& form);
+
+/// Sets the label font and the banner.
+void prepara_desenho(FrmPadrao& form);
+
+/// Sets up a job of 40 by 20 mm labels, two across.
+void inicia_trabalho_40x20(FrmPadrao& form);
+
+/// Ends the job on its printer, and makes the default printer the current one again.
+void encerra_trabalho(FrmPadrao& form);
+
+/// An item without a price shows "0,00" from here on.
+void completa_preco(FrmPadrao& form);
+
+/// The end of the item code that is printed large.
+[[nodiscard]] TextView ref3(const FrmPadrao& form);
+
+/// Description and colour of the item as one text.
+[[nodiscard]] Text descricao_cor(const FrmPadrao& form);
+
+/// Ends the command where the size that was looked up last has no master code or no barcode.
+[[nodiscard]] Course testa_codigos_do_tamanho(FrmPadrao& form);
+
+/// Prints the sizes of the item and ends the job: looks up the codes of each filled size slot in
+/// turn, and hands the slot to `print`, which tells the course. Where that ends, the job stays open
+/// as far as it has gone.
+template <typename Print>
+[[nodiscard]] Course imprime_grade(FrmPadrao& form, Print&& print) {
+    for (std::size_t slot = 0; slot < total_slots; ++slot) {
+        if (isBlank(form.txtnumero[slot].text)) {
+            continue;
+        }
+        skip([&] { ret_codcomplemento(form, form.Label7[slot].caption); });
+        if (print(slot) == Course::ends) {
+            return Course::ends;
+        }
+    }
+    encerra_trabalho(form);
+    return Course::goes_on;
+}
+
+} // namespace etiquetas

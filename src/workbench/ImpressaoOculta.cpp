@@ -1,0 +1,48 @@
+#include "base/Numbers.h"
+#include "labels/Cabecalho.h"
+#include "labels/Oculta.h"
+#include "workbench/ImpressaoRamos.h"
+
+namespace etiquetas {
+
+namespace {
+
+Course testa_quantidade(FrmPadrao& form) {
+    if (!isBlank(form.TXTOCULTAS.text)) {
+        return Course::goes_on;
+    }
+    avisa(form, u"Quantidade de Etiquetas Ocultas - Inválida", Symbol::exclamation);
+    return Course::ends;
+}
+
+// Two labels for each pair.
+void drawSize(FrmPadrao& form, std::size_t slot) {
+    constexpr std::int32_t labels_per_pair = 2;
+    const std::int16_t pairs = toInteger16(form.txtnumero[slot].text);
+    Imprime_Oculta_40_20_2(form, form.marca_logo, trimmed(form.txtdescricao.text), ref3(form),
+                           form.lblmaster.caption, form.lblbarra.caption, form.Label7[slot].caption,
+                           toInteger16(pairs * labels_per_pair), form.txtcor.text);
+}
+
+Course printSize(FrmPadrao& form, std::size_t slot) {
+    if (testa_codigos_do_tamanho(form) == Course::ends) {
+        return Course::ends;
+    }
+    skip([&] { drawSize(form, slot); });
+    return Course::goes_on;
+}
+
+} // namespace
+
+Course imprime_ocultas(FrmPadrao& form) {
+    if (pergunta_cor(form, form.txtcor) == Course::ends || testa_quantidade(form) == Course::ends) {
+        return Course::ends;
+    }
+    inicia_trabalho_40x20(form);
+    if (form.Frame2.visible) {
+        skip([&] { Imprime_CabecAlho(form, u"OCULTA"); });
+    }
+    return imprime_grade(form, [&](std::size_t slot) { return printSize(form, slot); });
+}
+
+} // namespace etiquetas
