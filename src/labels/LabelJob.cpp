@@ -3,8 +3,11 @@
 #include "base/Failure.h"
 #include "base/Numbers.h"
 #include "config/Settings.h"
+#include "labels/PriceBlock.h"
 #include "platform/PrintSurface.h"
 #include "platform/Printers.h"
+
+#include <utility>
 
 namespace etiquetas {
 
@@ -20,9 +23,20 @@ bool SelecionaImpressora(FrmPadrao& form, TextView name) {
     return false;
 }
 
-void prepara_superficie(FrmPadrao& form, const PageSize& page) {
+void avisa(FrmPadrao& form, Text text, Symbol symbol) {
+    skip([&] { form.platform.messages.show({.text = std::move(text), .symbol = symbol}); });
+}
+
+void seleciona_escolhida(FrmPadrao& form) {
+    skip([&] { SelecionaImpressora(form, form.CMBPRINTER.text); });
+}
+
+void usa_milimetros(FrmPadrao& form) {
+    skip([&] { form.platform.surface.ScaleMode(ScaleMode::millimetres); });
+}
+
+void define_pagina(FrmPadrao& form, const PageSize& page) {
     PrintSurface& surface = form.platform.surface;
-    skip([&] { surface.ScaleMode(ScaleMode::millimetres); });
     skip([&] { surface.PaperSize(user_defined_paper); });
     skip([&] { surface.Width(page.width); });
     skip([&] { surface.Height(page.height); });
@@ -44,8 +58,36 @@ void le_margens(FrmPadrao& form, std::span<const Margin> margins) {
     }
 }
 
+void usa_fonte(FrmPadrao& form) {
+    skip([&] { form.platform.surface.FontName(form.NomeFonte); });
+}
+
 void escolhe_marca(FrmPadrao& form) {
     form.marca_logo = left(form.LBLBRISAKO.caption, 1) == u"L" ? u"L" : u"B";
+}
+
+void encerra_trabalho(FrmPadrao& form) {
+    skip([&] { form.platform.surface.EndDoc(); });
+    skip([&] { SelecionaImpressora(form, form.lblprinterdefault.caption); });
+}
+
+void completa_preco(FrmPadrao& form) {
+    if (isBlank(form.txtpreco.text)) {
+        form.txtpreco.text = sem_preco;
+    }
+}
+
+TextView ref3(const FrmPadrao& form) {
+    constexpr std::size_t length = 3;
+    return right(form.txtcodigo.text, length);
+}
+
+Text descricao_cor(const FrmPadrao& form) {
+    return Text(trimmed(form.txtdescricao.text)).append(u" ").append(trimmed(form.txtcor.text));
+}
+
+bool tem_logos(const FrmPadrao& form) {
+    return form.LogoBrisakoOk && form.LogoLumiraOk;
 }
 
 } // namespace etiquetas

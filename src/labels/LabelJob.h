@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Text.h"
+#include "platform/MessageBoxes.h"
 #include "workbench/FrmPadrao.h"
 
 #include <array>
@@ -57,14 +58,45 @@ inline constexpr PageSize pagina_pack{9000, 9000};
 /// exactly. False where there is none, and the current printer stays.
 bool SelecionaImpressora(FrmPadrao& form, TextView name);
 
-/// Sets the surface to millimetres and to a user-defined page. A step that fails is passed over.
-void prepara_superficie(FrmPadrao& form, const PageSize& page);
+// The routines below run in skip mode: a step that fails is passed over.
+
+/// Tells the operator something.
+void avisa(FrmPadrao& form, Text text, Symbol symbol = Symbol::none);
+
+/// Selects the printer that the operator chose; where it is gone the current one stays.
+void seleciona_escolhida(FrmPadrao& form);
+
+/// Sets the surface to millimetres.
+void usa_milimetros(FrmPadrao& form);
+
+/// Sets a user-defined page.
+void define_pagina(FrmPadrao& form, const PageSize& page);
 
 /// Reads margins from the settings file; one whose text is empty or no number stays as it was.
 /// Where the file does not exist all take their defaults.
 void le_margens(FrmPadrao& form, std::span<const Margin> margins);
 
+/// Sets the surface to the label font.
+void usa_fonte(FrmPadrao& form);
+
 /// Sets `marca_logo` from the banner of the order: "L" for LUMIRA, else "B".
 void escolhe_marca(FrmPadrao& form);
+
+/// Ends the job on its printer, and makes the default printer the current one again.
+void encerra_trabalho(FrmPadrao& form);
+
+// What the labels are handed of the item on the Workbench.
+
+/// An item without a price shows "0,00" from here on.
+void completa_preco(FrmPadrao& form);
+
+/// The end of the item code that is printed large.
+[[nodiscard]] TextView ref3(const FrmPadrao& form);
+
+/// Description and colour of the item as one text.
+[[nodiscard]] Text descricao_cor(const FrmPadrao& form);
+
+/// True where both logos have been loaded: a label needs both, whichever banner the order has.
+[[nodiscard]] bool tem_logos(const FrmPadrao& form);
 
 } // namespace etiquetas

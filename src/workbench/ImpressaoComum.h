@@ -2,8 +2,8 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
+#include "labels/LabelJob.h"
 #include "orders/Complemento.h"
-#include "platform/MessageBoxes.h"
 #include "workbench/FrmPadrao.h"
 
 #include <cstdint>
@@ -15,9 +15,6 @@ namespace etiquetas {
 
 /// Whether the Print command goes on behind a step, to its closing question in the end.
 enum class Course : std::uint8_t { goes_on, ends };
-
-/// Tells the operator something.
-void avisa(FrmPadrao& form, Text text, Symbol symbol = Symbol::none);
 
 /// Asks the operator; true only on Yes.
 [[nodiscard]] bool confirma(FrmPadrao& form, Text question);
@@ -34,26 +31,8 @@ void avisa(FrmPadrao& form, Text text, Symbol symbol = Symbol::none);
 /// Tells the operator where no item is chosen. Not every branch ends then.
 Course testa_descricao(FrmPadrao& form, const TextField& description);
 
-/// Selects the printer that the operator chose; where it is gone the current one stays.
-void seleciona_escolhida(FrmPadrao& form);
-
-/// Sets the label font and the banner.
-void prepara_desenho(FrmPadrao& form);
-
 /// Sets up a job of 40 by 20 mm labels, two across.
 void inicia_trabalho_40x20(FrmPadrao& form);
-
-/// Ends the job on its printer, and makes the default printer the current one again.
-void encerra_trabalho(FrmPadrao& form);
-
-/// An item without a price shows "0,00" from here on.
-void completa_preco(FrmPadrao& form);
-
-/// The end of the item code that is printed large.
-[[nodiscard]] TextView ref3(const FrmPadrao& form);
-
-/// Description and colour of the item as one text.
-[[nodiscard]] Text descricao_cor(const FrmPadrao& form);
 
 /// Ends the command where the size that was looked up last has no master code or no barcode.
 [[nodiscard]] Course testa_codigos_do_tamanho(FrmPadrao& form);

@@ -1,6 +1,5 @@
 #include "base/Numbers.h"
 #include "labels/Corrugado.h"
-#include "labels/LabelJob.h"
 #include "workbench/ImpressaoRamos.h"
 
 namespace etiquetas {
@@ -11,7 +10,7 @@ namespace {
 void readMargins(FrmPadrao& form) {
     form.PackX = 3.0F;
     form.PackY = 3.0F;
-    skip([&] { le_margens(form, margens_pack); });
+    le_margens(form, margens_pack);
 }
 
 void printVolumes(FrmPadrao& form) {
@@ -34,8 +33,10 @@ Course imprime_corrugados(FrmPadrao& form) {
     }
     seleciona_escolhida(form);
     readMargins(form);
-    prepara_superficie(form, pagina_pack);
-    prepara_desenho(form);
+    usa_milimetros(form);
+    define_pagina(form, pagina_pack);
+    usa_fonte(form);
+    escolhe_marca(form);
     skip([&] { printVolumes(form); });
     encerra_trabalho(form);
     return Course::goes_on;

@@ -2,7 +2,6 @@
 #include "labels/Cabecalho.h"
 #include "labels/Frente100x40.h"
 #include "labels/FrenteCaixa.h"
-#include "labels/LabelJob.h"
 #include "platform/PrintSurface.h"
 #include "workbench/ImpressaoRamos.h"
 
@@ -13,10 +12,10 @@ namespace {
 // Kind of paper and width are set behind the margins too; the height is not.
 void prepareStrip(FrmPadrao& form) {
     PrintSurface& surface = form.platform.surface;
-    skip([&] { surface.ScaleMode(ScaleMode::millimetres); });
+    usa_milimetros(form);
     skip([&] { surface.Width(pagina_caixa.width); });
     skip([&] { surface.Height(pagina_caixa.height); });
-    skip([&] { le_margens(form, margens_caixa); });
+    le_margens(form, margens_caixa);
     skip([&] { surface.PaperSize(user_defined_paper); });
     skip([&] { surface.Width(pagina_caixa.width); });
 }
@@ -25,7 +24,8 @@ void beginStripJob(FrmPadrao& form) {
     form.coluna_etiqueta = 1;
     seleciona_escolhida(form);
     prepareStrip(form);
-    prepara_desenho(form);
+    usa_fonte(form);
+    escolhe_marca(form);
     if (form.Frame2.visible) {
         skip([&] { Imprime_CabecAlho(form, u"FC"); });
     }
@@ -53,13 +53,14 @@ Course printStripSize(FrmPadrao& form, std::size_t slot) {
 // The page is the printer's own, and so are the margins.
 void begin100x40Job(FrmPadrao& form) {
     seleciona_escolhida(form);
-    skip([&] { form.platform.surface.ScaleMode(ScaleMode::millimetres); });
+    usa_milimetros(form);
     form.Margem_oculta1 = 3.0F;
     form.Margem_oculta11 = 45.0F;
     form.Margem_oculta2 = 3.0F;
     form.PackLinhaX = 0.0F;
     form.PackLinhaY = 0.0F;
-    prepara_desenho(form);
+    usa_fonte(form);
+    escolhe_marca(form);
 }
 
 Course print100x40Size(FrmPadrao& form, std::size_t slot) {
