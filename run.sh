@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the program and starts it in a folder of its own, laid out like an installation. Without a
-# display it prints an order through the window all the same, headless, and leaves the labels and
-# pictures of the window in build/demo.
+# display it prints an item of every label kind through the window all the same, headless, and leaves
+# the labels and pictures of the window in build/demo.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
@@ -29,7 +29,7 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     exec build/instalacao/etiquetas
 fi
 
-echo "== No display: printing an order through the window, headless, into build/demo"
+echo "== No display: printing every label kind through the window, headless, into build/demo"
 rm -rf build/demo
 lay_out build/demo/instalacao
 QT_QPA_PLATFORM=offscreen build/run/bin/etiquetas_demo build/demo/instalacao build/demo
@@ -37,7 +37,7 @@ QT_QPA_PLATFORM=offscreen build/run/bin/etiquetas_demo build/demo/instalacao bui
 echo "== Turning the label pages into pictures, as a printer of 203 dpi sees them"
 for job in build/demo/*.pdf; do
     [ -e "$job" ] || { echo "The demonstration left no label pages in build/demo" >&2 && exit 1; }
-    pdftoppm -r 203 -png "$job" "${job%.pdf}"
+    pdftoppm -r 203 -l 2 -png "$job" "${job%.pdf}" # the first pages tell enough
 done
 
 echo "== Written:"

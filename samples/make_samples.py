@@ -287,13 +287,18 @@ def word(draw, x, baseline, text, face, size, spacing):
     return x
 
 
+# The layouts print over the right half of a logo's place, so that its ink stands in the left 138 of
+# its pixels, and that of LUMIRA clear of the foot, too.
+
+
 def draw_brisako():
-    """The word, and behind it waves, which a stamp of the first 300 pixels may leave out."""
+    """The word in two rows, the second ending in waves."""
     image, draw = canvas(355, 80)
-    word(draw, 6, 61, "BRISA KO", "LiberationSans-BoldItalic.ttf", 58, 1)
-    for row in range(4):
-        y = 22 + 12 * row
-        wave = [(304 + step, y + 4 * ((step // 12) % 2)) for step in range(0, 49, 12)]
+    word(draw, 5, 37, "BRISA", "LiberationSans-BoldItalic.ttf", 43, 0)
+    end = word(draw, 3, 76, "KO", "LiberationSans-BoldItalic.ttf", 43, 0)
+    for row in range(3):
+        y = 51 + 10 * row
+        wave = [(end + 8 + step, y + 4 * ((step // 12) % 2)) for step in range(0, 49, 12)]
         draw.line(scaled(smooth(wave, closed=False)), "black", 4 * DETAIL, joint="curve")
     save(image, "brisako.jpg")
 
@@ -301,11 +306,11 @@ def draw_brisako():
 def draw_lumira():
     """The word over a rule, with rays of light above its last letter."""
     image, draw = canvas(300, 80)
-    end = word(draw, 8, 62, "LUMIRA", "DejaVuSans-Bold.ttf", 54, 9) - 9
-    draw.rectangle(scaled([(8, 68), (end, 72)]), "black")
-    for ray, height in enumerate((4, 9, 14, 9, 4)):
-        x = end - 39 + 9 * ray
-        draw.line(scaled([(x, 17), (x, 17 - height)]), "black", 3 * DETAIL)
+    end = word(draw, 6, 44, "LUMIRA", "DejaVuSans-Bold.ttf", 27, 2) - 2
+    draw.rectangle(scaled([(6, 49), (end, 52)]), "black")
+    for ray, height in enumerate((4, 8, 12, 8, 4)):
+        x = end - 21 + 5 * ray
+        draw.line(scaled([(x, 17), (x, 17 - height)]), "black", 2 * DETAIL)
     save(image, "lumira.jpg")
 
 

@@ -20,11 +20,17 @@ void requirePrinter(const PrintTarget& target) {
     }
 }
 
+// The built-in device has the stock of the one label that takes the printer's own page.
+QPageSize builtInPage() {
+    return QPageSize(QSizeF(100, 40), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+}
+
 std::unique_ptr<QPrinter> makePrinter(const PrintTarget& target) {
     requirePrinter(target);
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     if (target.built_in) {
         printer->setOutputFormat(QPrinter::PdfFormat);
+        printer->setPageSize(builtInPage());
     } else {
         printer->setOutputFormat(QPrinter::NativeFormat);
         printer->setPrinterName(target.name);
@@ -40,7 +46,9 @@ int resolutionOf(const PrintTarget& target) {
     return makePrinter(target)->resolution();
 }
 
-PrintJob::PrintJob(const PrintTarget& target) : target_(target), printer_(makePrinter(target)) {}
+PrintJob::PrintJob(const PrintTarget& target)
+    : target_(target), printer_(makePrinter(target)), own_page_(printer_->pageLayout().pageSize()) {
+}
 
 LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
     if (page_ended_) {
@@ -61,9 +69,7 @@ void PrintJob::write(const QString& path) {
 
 // Orientation stays portrait: a page wider than high is not turned then.
 bool PrintJob::start(const LabelPage& page, QPainter& painter) {
-    if (page.size) {
-        printer_->setPageSize(*page.size);
-    }
+    printer_->setPageSize(page.size.value_or(own_page_));
     return painter.isActive() ? printer_->newPage() : painter.begin(printer_.get());
 }
 

@@ -44,6 +44,7 @@ class PrintJob {
 
     PrintTarget target_;
     std::unique_ptr<QPrinter> printer_;
+    QPageSize own_page_; // of the printer
     std::vector<LabelPage> pages_;
     bool page_ended_ = true;
 };

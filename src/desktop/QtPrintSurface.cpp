@@ -66,11 +66,13 @@ void QtPrintSurface::PaperSize(int kind) {
 
 void QtPrintSurface::Width(int twips) {
     requirePositive(twips);
+    beginPageSize();
     width_ = twips;
 }
 
 void QtPrintSurface::Height(int twips) {
     requirePositive(twips);
+    beginPageSize();
     height_ = twips;
 }
 
@@ -141,6 +143,15 @@ Text QtPrintSurface::Fonts(std::size_t index) const {
     return toText(faces_[static_cast<qsizetype>(index)]);
 }
 
+// Forgets a size that was set before the current printer was selected.
+void QtPrintSurface::beginPageSize() {
+    if (size_selection_ != printers_->selections()) {
+        size_selection_ = printers_->selections();
+        width_.reset();
+        height_.reset();
+    }
+}
+
 // Millimetres.
 double QtPrintSurface::fontSize() const {
     return points_ * millimetres_per_point;
@@ -163,7 +174,8 @@ int QtPrintSurface::resolution() const {
 }
 
 std::optional<QPageSize> QtPrintSurface::pageSize() const {
-    if (!width_ || !height_) {
+    const bool of_this_selection = size_selection_ == printers_->selections();
+    if (!of_this_selection || !width_ || !height_) {
         return std::nullopt;
     }
     return labelPageSize(*width_, *height_);

@@ -49,7 +49,8 @@ class QtPrintSurface final : public PrintSurface {
 
     /// Fails for any kind but `user_defined_paper`.
     void PaperSize(int kind) override;
-    /// A size holds from the next page on. Fails where it is not positive.
+    /// A size holds from the next page on, until a printer is selected: its own page holds then.
+    /// Fails where it is not positive.
     void Width(int twips) override;
     void Height(int twips) override;
 
@@ -69,6 +70,7 @@ class QtPrintSurface final : public PrintSurface {
 
   private:
     void selectFont() { font_ = &fonts_.get(face_, bold_); }
+    void beginPageSize();
     [[nodiscard]] double fontSize() const;
     [[nodiscard]] double unit() const;
     [[nodiscard]] int resolution() const;
@@ -94,8 +96,9 @@ class QtPrintSurface final : public PrintSurface {
     float x_ = 0;
     float y_ = 0;
     etiquetas::ScaleMode scale_mode_ = etiquetas::ScaleMode::millimetres;
-    std::optional<int> width_;  // twips
-    std::optional<int> height_; // twips
+    std::optional<int> width_;       // twips
+    std::optional<int> height_;      // twips
+    std::size_t size_selection_ = 0; // selection of the printer that the size was set for
 };
 
 } // namespace etiquetas

@@ -51,6 +51,7 @@ void QtPrinters::makeCurrent(std::size_t index) {
         throw subscriptOutOfRange();
     }
     current_ = index;
+    ++selections_;
 }
 
 } // namespace etiquetas

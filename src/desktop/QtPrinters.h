@@ -35,11 +35,14 @@ class QtPrinters final : public Printers {
 
     /// The printer that the next job goes to; the default one at first.
     [[nodiscard]] const PrintTarget& current() const { return targets_[current_]; }
+    /// How often a printer has been made the current one.
+    [[nodiscard]] std::size_t selections() const { return selections_; }
 
   private:
     std::vector<PrintTarget> targets_;
     std::size_t default_ = 0;
     std::size_t current_ = 0;
+    std::size_t selections_ = 0;
 };
 
 } // namespace etiquetas

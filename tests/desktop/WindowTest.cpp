@@ -14,9 +14,6 @@
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
-
 namespace etiquetas {
 
 namespace {
@@ -111,59 +108,6 @@ TEST_F(WindowTest, leadsThroughAnOrderByTheKeyboard) {
     worker.press(Qt::Key_Return);
     EXPECT_EQ(jobs().size(), 2);
     EXPECT_TRUE(worker.text(u"cmb_referencia"_s).isEmpty());
-}
-
-// Text, place of its top-left corner in the first column, size and Windows ascent of its font.
-struct Expected {
-    QString text;
-    double x;
-    double y;
-    double size;
-    double ascent;
-};
-
-TEST_F(WindowTest, printsTextsWithinATenthOfAMillimetreAndBarsThatScan) {
-    loadOrder();
-    worker.click(u"cmd_printacessorio"_s);
-    ASSERT_FALSE(onlyJob().isEmpty());
-    constexpr double calibri = 1950.0 / 2048;  // Carlito's
-    constexpr double franklin = 1854.0 / 2048; // Liberation Sans's
-    const std::array<Expected, 7> first_column{{{u"527"_s, 33.3, 2, 20, calibri},
-                                                {u"3104527001"_s, 23.6, 10.5, 6, franklin},
-                                                {u"231045"_s, 19.5, 16.8, 6, franklin},
-                                                {u"2701003"_s, 30.7, 16.8, 6, franklin},
-                                                {u"33"_s, 6.3, 10, 26, calibri},
-                                                {u"BOTA CANO CURTO"_s, 5.8, 3.2, 6, franklin},
-                                                {u"PRETO"_s, 5.8, 5.4, 6, franklin}}};
-    constexpr double columns_apart = 45 + 5 - 3 - 2.3;
-    const auto texts = pageTexts(onlyJob()).front();
-    for (const Expected& expected : first_column) {
-        SCOPED_TRACE(qPrintable(expected.text));
-        std::vector<QPointF> origins;
-        for (const PdfText& text : texts) {
-            if (text.text == expected.text) {
-                origins.push_back(text.origins.front());
-            }
-        }
-        ASSERT_EQ(origins.size(), 2);
-        const double baseline = expected.y + expected.ascent * expected.size * 25.4 / 72;
-        EXPECT_NEAR(origins[0].x(), expected.x, 0.1);
-        EXPECT_NEAR(origins[1].x(), expected.x + columns_apart, 0.1);
-        EXPECT_NEAR(origins[0].y(), baseline, 0.1);
-        EXPECT_NEAR(origins[1].y(), baseline, 0.1);
-    }
-    const std::array barcodes{u"2310452701003"_s, u"2310452701010"_s, u"2310452701010"_s};
-    for (std::size_t i = 0; i < barcodes.size(); ++i) {
-        for (const int resolution : {203, 300}) {
-            SCOPED_TRACE(testing::Message() << "page " << i + 1 << " at " << resolution << " dpi");
-            const QImage page = renderedPage(onlyJob(), static_cast<int>(i) + 1, resolution,
-                                             Tones::black_and_white);
-            const int column = page.width() / 3; // 53 mm, between the two symbols
-            EXPECT_EQ(symbolsIn(page.copy(0, 0, column, page.height())), QStringList{barcodes[i]});
-            EXPECT_EQ(symbolsIn(page.copy(column, 0, page.width() - column, page.height())),
-                      QStringList{barcodes[i]});
-        }
-    }
 }
 
 TEST_F(WindowTest, runsALeavingEventThatShowsABoxOnce) {
