@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -43,7 +44,19 @@ Operator::Operator() {
 
 void Operator::sitAt(Desktop& desktop) {
     desktop_ = &desktop;
-    bringToFront(desktop.window());
+    window_ = &desktop.window();
+    bringToFront(*window_);
+}
+
+void Operator::turnTo(const QString& window) {
+    window_ = &desktop_->window();
+    for (DialogWindow* const dialog : desktop_->dialogs()) {
+        if (dialog->objectName() == window) {
+            window_ = dialog;
+        }
+    }
+    bringToFront(*window_);
+    settle();
 }
 
 void Operator::choose(const QString& list, int position) {
@@ -62,7 +75,7 @@ void Operator::type(const QString& field, const QString& text) {
 }
 
 void Operator::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-    bringToFront(desktop_->window());
+    bringToFront(*window_);
     QTest::keyClick(&focusedWidget(), key, modifiers);
     settle();
 }
@@ -74,19 +87,19 @@ void Operator::pressMnemonic(Qt::Key letter) {
 }
 
 void Operator::keys(const QString& text) {
-    bringToFront(desktop_->window());
+    bringToFront(*window_);
     QTest::keyClicks(&focusedWidget(), text);
     settle();
 }
 
 void Operator::click(const QString& name) const {
-    bringToFront(desktop_->window());
+    bringToFront(*window_);
     QTest::mouseClick(&clickable(widget<QWidget>(name)), Qt::LeftButton);
     settle();
 }
 
 void Operator::doubleClick(const QString& name) const {
-    bringToFront(desktop_->window());
+    bringToFront(*window_);
     QTest::mouseDClick(&clickable(widget<QWidget>(name)), Qt::LeftButton, Qt::NoModifier,
                        QPoint(4, 4));
     settle();
@@ -109,19 +122,34 @@ QString Operator::text(const QString& name) const {
 }
 
 void Operator::answer() {
-    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr) {
-        return;
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (auto* const box = qobject_cast<QMessageBox*>(modal)) {
+        answer(*box);
+    } else if (auto* const picker = qobject_cast<QFileDialog*>(modal)) {
+        answer(*picker);
     }
+}
+
+void Operator::answer(QMessageBox& box) {
     look_();
-    boxes_.push_back({box->windowTitle(), box->text()});
-    QPushButton* const proposed = box->defaultButton();
-    proposed != nullptr ? proposed->click() : box->buttons().first()->click();
+    boxes_.push_back({box.windowTitle(), box.text()});
+    QPushButton* const proposed = box.defaultButton();
+    proposed != nullptr ? proposed->click() : box.buttons().first()->click();
+}
+
+void Operator::answer(QFileDialog& picker) const {
+    if (picked_.isEmpty()) {
+        picker.reject();
+    } else {
+        picker.setDirectory(picked_);
+        picker.findChild<QLineEdit*>()->setText(picked_);
+        static_cast<QDialog&>(picker).done(QDialog::Accepted);
+    }
 }
 
 QWidget& Operator::focusedWidget() const {
-    QWidget* const focused = desktop_->window().focusWidget();
-    return focused != nullptr ? *focused : desktop_->window();
+    QWidget* const focused = window_->focusWidget();
+    return focused != nullptr ? *focused : *window_;
 }
 
 } // namespace etiquetas

@@ -9,6 +9,9 @@
 #include <utility>
 #include <vector>
 
+class QFileDialog;
+class QMessageBox;
+
 namespace etiquetas {
 
 /// A message box as the operator saw it.
@@ -17,15 +20,18 @@ struct SeenBox {
     QString text;
 };
 
-/// Works a real Workbench window as an operator does: by keys and clicks on its widgets, and by
-/// OK or Yes to its message boxes.
+/// Works the real windows as an operator does: by keys and clicks on their widgets, and by OK or
+/// Yes to their message boxes.
 class Operator {
   public:
     /// Starts answering message boxes at once, so that one can watch over a start-up.
     Operator();
 
-    /// Takes a seat at the window, which has been shown.
+    /// Takes a seat at the main window, which has been shown.
     void sitAt(Desktop& desktop);
+    /// Works on a dialog from here on, which is open, or on the main window, by its name. All names
+    /// of widgets are those of this window.
+    void turnTo(const QString& window);
 
     /// Chooses from a list by its arrow keys, after a click into it.
     void choose(const QString& list, int position);
@@ -48,21 +54,27 @@ class Operator {
     /// The widget of that name and type; it must be there.
     template <typename Widget>
     [[nodiscard]] Widget& widget(const QString& name) const {
-        return *desktop_->window().findChild<Widget*>(name);
+        return *window_->findChild<Widget*>(name);
     }
 
     /// What runs while a box stands, before it is answered.
     void beforeAnswer(std::function<void()> look) { look_ = std::move(look); }
+    /// The folder that the folder picker is answered with; without one it is cancelled.
+    void willPick(const QString& folder) { picked_ = folder; }
     /// The boxes since the last call.
     std::vector<SeenBox> takeBoxes() { return std::exchange(boxes_, {}); }
 
   private:
     void answer();
+    void answer(QMessageBox& box);
+    void answer(QFileDialog& picker) const;
     [[nodiscard]] QWidget& focusedWidget() const;
 
     Desktop* desktop_ = nullptr;
+    QWidget* window_ = nullptr;
     QTimer watch_;
     std::vector<SeenBox> boxes_;
+    QString picked_;
     std::function<void()> look_ = [] {};
 };
 

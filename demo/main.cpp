@@ -1,5 +1,5 @@
 // Prints an item of every label kind for both banners as an operator would, by keys on the real
-// window, and leaves pictures of the window and the written jobs in a folder.
+// windows, and leaves pictures of the windows and the written jobs in a folder.
 
 #include "demo/Operator.h"
 
@@ -14,6 +14,7 @@
 namespace {
 
 using etiquetas::Desktop;
+using etiquetas::DialogWindow;
 using etiquetas::Operator;
 
 // A label kind: what its jobs are called, and its position in the list.
@@ -42,6 +43,7 @@ class Demonstration {
     int run() {
         desktop_.start();
         operator_.sitAt(desktop_);
+        pictureDialog(QStringLiteral("cmd_parametro"));
         bool all_printed = true;
         for (const QString& order : {QStringLiteral("1400050831"), QStringLiteral("1500031742")}) {
             for (const Kind& kind : kinds) {
@@ -63,8 +65,22 @@ class Demonstration {
     bool printFirstItem(const QString& order, const Kind& kind) {
         load(order, kind);
         const QString name = QStringLiteral("%1-%2").arg(QLatin1String(kind.name), order);
-        takePicture(QStringLiteral("janela-%1.png").arg(name));
+        takePicture(desktop_.window(), QStringLiteral("janela-%1.png").arg(name));
+        pictureDialog(QStringLiteral("cmd_calibra"));
         return print(name);
+    }
+
+    // Opens a dialog by its command, and closes it again.
+    void pictureDialog(const QString& command) {
+        operator_.click(command);
+        for (DialogWindow* const dialog : desktop_.dialogs()) {
+            if (dialog->isVisible()) {
+                operator_.turnTo(dialog->objectName());
+                takePicture(*dialog, QStringLiteral("dialogo-%1.png").arg(dialog->objectName()));
+                operator_.press(Qt::Key_Escape);
+            }
+        }
+        operator_.sitAt(desktop_);
     }
 
     // The list of kinds does not offer this one, and leaving the list with it would hide the
@@ -89,9 +105,9 @@ class Demonstration {
         return true;
     }
 
-    void takePicture(const QString& name) {
+    void takePicture(QWidget& window, const QString& name) {
         const QString path = output_.filePath(name);
-        if (desktop_.window().grab().save(path)) {
+        if (window.grab().save(path)) {
             report(path);
         }
     }

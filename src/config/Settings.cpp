@@ -57,6 +57,15 @@ void GravaIni(Files& files, TextView section, TextView key, TextView value, Text
     });
 }
 
+void apaga_comando(Files& files) {
+    const Text comando = joined(files, files.programFolder(), u"IMPRIMIR.BAT");
+    skip([&] {
+        if (files.fileExists(comando)) {
+            files.deleteFile(comando);
+        }
+    });
+}
+
 void gera_ini_base(Files& files, TextView /*file*/) {
     const Text file = caminho_ini(files);
     const auto grava = [&](TextView chave, TextView valor) {
@@ -67,12 +76,7 @@ void gera_ini_base(Files& files, TextView /*file*/) {
     }
     grava(u"Path", files.programFolder());
     grava(u"TipoOculta", u"3");
-    const Text comando = joined(files, files.programFolder(), u"IMPRIMIR.BAT");
-    skip([&] {
-        if (files.fileExists(comando)) {
-            files.deleteFile(comando);
-        }
-    });
+    apaga_comando(files);
 }
 
 } // namespace etiquetas

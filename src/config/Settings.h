@@ -25,6 +25,10 @@ inline constexpr TextView margens = u"MargemOcultaZebra";
 /// missing. A file that can't be written stays as it is, and nobody is told.
 void GravaIni(Files& files, TextView section, TextView key, TextView value, TextView file);
 
+/// Deletes the command file "IMPRIMIR.BAT" of the direct printer channel from the program's folder,
+/// where there is one; one that can't be deleted stays.
+void apaga_comando(Files& files);
+
 /// Writes the settings of a new installation and deletes the command file that an earlier one may
 /// have left. The path is formed anew, so that the argument is not looked at.
 void gera_ini_base(Files& files, TextView file);

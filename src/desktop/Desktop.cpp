@@ -1,5 +1,7 @@
 #include "desktop/Desktop.h"
 
+#include "desktop/DialogTable.h"
+#include "desktop/FieldTable.h"
 #include "desktop/QtText.h"
 #include "workbench/Inicio.h"
 
@@ -10,9 +12,10 @@ namespace etiquetas {
 
 Desktop::Desktop(const QString& folder)
     : files_(folder), surface_(printers_, folder),
-      form_({printers_, surface_, messages_, pictures_, files_, focus_, pointer_, process_}),
-      bridge_(form_, window_, focus_,
-              [this](const QString& description) { endOnFailure(description); }) {
+      form_({printers_, surface_, messages_, pictures_, files_, focus_, pointer_, process_,
+             folders_, commands_}),
+      bridge_(focus_, [this](const QString& description) { endOnFailure(description); }) {
+    bridgeWindows();
     messages_.standOver(&window_, [this] { bridge_.pushAll(); });
     process_.onEnd([this] { end(0); });
     window_.onClose([this] {
@@ -24,6 +27,26 @@ Desktop::Desktop(const QString& folder)
         window_.tell(
             QStringLiteral("Etiquetas gravadas em %1").arg(QDir::toNativeSeparators(path)));
     });
+}
+
+void Desktop::bridgeWindows() {
+    bridge_.add(fieldTable(form_, window_));
+    const auto addDialog = [this](DialogWindow& window, BridgedWindow table, bool& open) {
+        bridge_.add(std::move(table));
+        window.onClose([this, &open] { bridge_.run([&open] { open = false; }); });
+    };
+    const auto addMargins = [&](DialogWindow& window, MargensDialog& dialog) {
+        addDialog(window, marginTable(form_, dialog, window, window_), dialog.open);
+    };
+    addMargins(oculta_margins_, form_.FrmMargensOcultaZPL2);
+    addMargins(caixa_margins_, form_.FrmMargensCxZPL45);
+    addMargins(pack_margins_, form_.FrmMargensPackZPL);
+    addDialog(parameters_, parameterTable(form_, parameters_, window_),
+              form_.FrmParametroImpressora.open);
+}
+
+std::vector<DialogWindow*> Desktop::dialogs() {
+    return {&oculta_margins_, &caixa_margins_, &pack_margins_, &parameters_};
 }
 
 void Desktop::start() {

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "desktop/DialogWindow.h"
 #include "desktop/EventBridge.h"
+#include "desktop/QtCommandStart.h"
 #include "desktop/QtDesk.h"
 #include "desktop/QtFiles.h"
+#include "desktop/QtFolderPicker.h"
 #include "desktop/QtMessageBoxes.h"
 #include "desktop/QtPictures.h"
 #include "desktop/QtPrintSurface.h"
@@ -13,6 +16,7 @@
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 namespace etiquetas {
 
@@ -26,12 +30,15 @@ class Desktop {
     void start();
 
     [[nodiscard]] WorkbenchWindow& window() { return window_; }
+    /// The windows of the dialogs, shown or not.
+    [[nodiscard]] std::vector<DialogWindow*> dialogs();
     [[nodiscard]] const FrmPadrao& form() const { return form_; }
 
     /// The exit code, once the program has ended: 0, or 1 when a failure ended it.
     [[nodiscard]] std::optional<int> exitCode() const { return exit_code_; }
 
   private:
+    void bridgeWindows();
     void end(int exit_code);
     void endOnFailure(const QString& description);
 
@@ -43,8 +50,14 @@ class Desktop {
     QtFocus focus_;
     QtPointer pointer_;
     QtProcess process_;
+    QtFolderPicker folders_;
+    QtCommandStart commands_;
     FrmPadrao form_;
     WorkbenchWindow window_;
+    MarginWindow oculta_margins_{QStringLiteral("FrmMargensOcultaZPL2")};
+    MarginWindow caixa_margins_{QStringLiteral("FrmMargensCxZPL45")};
+    MarginWindow pack_margins_{QStringLiteral("FrmMargensPackZPL")};
+    ParameterWindow parameters_;
     EventBridge bridge_;
     std::optional<int> exit_code_;
 };

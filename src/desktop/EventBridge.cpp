@@ -1,11 +1,8 @@
 #include "desktop/EventBridge.h"
 
 #include "base/Failure.h"
-#include "desktop/FieldTable.h"
 #include "desktop/QtDesk.h"
 #include "desktop/QtText.h"
-#include "workbench/Campos.h"
-#include "workbench/FrmPadrao.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -16,13 +13,9 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
-#include <algorithm>
-
 namespace etiquetas {
 
 namespace {
-
-constexpr int twips_per_pixel = 15;
 
 // Key code of the keys that walk through the fields, 0 for any other.
 KeyCode walkingKey(const QKeyEvent& event) {
@@ -62,16 +55,19 @@ const QObject* ownerOf(const QObject* widget) {
 
 } // namespace
 
-EventBridge::EventBridge(FrmPadrao& form, QWidget& window, QtFocus& focus, Failed failed)
-    : form_(form), window_(window), focus_(focus), failed_(std::move(failed)),
-      rows_(fieldTable(form, window)) {
-    for (FieldRow& row : rows_) {
-        watch(row);
-    }
+EventBridge::EventBridge(QtFocus& focus, Failed failed)
+    : focus_(focus), failed_(std::move(failed)) {
     // Late, when the toolkit has finished its own change of focus: a handler may show a message
     // box.
     connect(
         qApp, &QApplication::focusChanged, this, [this] { settleFocus(); }, Qt::QueuedConnection);
+}
+
+void EventBridge::add(BridgedWindow window) {
+    windows_.push_back(std::move(window));
+    for (FieldRow& row : windows_.back().rows) {
+        watch(row);
+    }
     pushAll();
 }
 
@@ -89,7 +85,6 @@ void EventBridge::watch(FieldRow& row) {
         });
     }
     if (auto* const button = qobject_cast<QPushButton*>(row.widget)) {
-        button->setEnabled(static_cast<bool>(row.click));
         connect(button, &QPushButton::clicked, this, [this, &row] { press(row); });
     }
 }
@@ -115,43 +110,70 @@ void EventBridge::run(const std::function<void()>& handler) {
 }
 
 void EventBridge::pullAll() {
-    for (const FieldRow& row : rows_) {
-        if (row.pull) {
-            row.pull();
+    for (const BridgedWindow& window : windows_) {
+        for (const FieldRow& row : window.rows) {
+            if (row.pull) {
+                row.pull();
+            }
         }
     }
 }
 
 void EventBridge::pushAll() {
-    for (const FieldRow& row : rows_) {
-        row.push();
-    }
-    pushWindow();
-}
-
-void EventBridge::pushWindow() {
-    window_.setWindowTitle(toQString(form_.Caption));
-    if (form_.Width > 0 && form_.Height > 0) {
-        window_.setFixedSize(form_.Width / twips_per_pixel, form_.Height / twips_per_pixel);
+    for (const BridgedWindow& window : windows_) {
+        for (const FieldRow& row : window.rows) {
+            row.push();
+        }
+        window.push();
     }
 }
 
-FieldRow* EventBridge::rowOf(const QObject* widget) {
+EventBridge::Place EventBridge::placeOf(const QObject* widget) {
     const QObject* const owner = ownerOf(widget);
-    const auto found = std::find_if(rows_.begin(), rows_.end(),
-                                    [&](const FieldRow& row) { return row.widget == owner; });
-    return found == rows_.end() ? nullptr : &*found;
+    for (BridgedWindow& window : windows_) {
+        for (FieldRow& row : window.rows) {
+            if (row.widget == owner) {
+                return {&window, &row};
+            }
+        }
+    }
+    return {};
+}
+
+// The focus of the window that is active, or was so last: another program's window and a message
+// box don't count.
+QWidget* EventBridge::focusedWidget() {
+    for (BridgedWindow& window : windows_) {
+        if (window.window->isActiveWindow()) {
+            current_ = &window;
+        }
+    }
+    if (current_ == nullptr || current_->window->isHidden()) {
+        current_ = &windows_.front();
+    }
+    return current_->window->focusWidget();
+}
+
+void EventBridge::giveFocusTo(const TextField& field) {
+    for (const BridgedWindow& window : windows_) {
+        for (const FieldRow& row : window.rows) {
+            if (row.text_field == &field) {
+                row.widget->setFocus();
+            }
+        }
+    }
 }
 
 bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
-    FieldRow* const row = delivering_ || stopped_ ? nullptr : rowOf(watched);
+    const Place place = delivering_ || stopped_ ? Place{} : placeOf(watched);
+    FieldRow* const row = place.row;
     if (row == nullptr) {
         return false;
     }
     switch (event->type()) {
     case QEvent::KeyPress:
         settleFocus();
-        return handleKey(*row, *static_cast<QKeyEvent*>(event));
+        return handleKey(place, *static_cast<QKeyEvent*>(event));
     case QEvent::InputMethod:
         settleFocus();
         return handleComposed(*row, *static_cast<QInputMethodEvent*>(event));
@@ -169,12 +191,11 @@ bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-// The field that has the focus among the window's own gets its entering event, the one before its
-// leaving event. Another program's window or a message box does not count as a change. A handler
+// The field that has the focus gets its entering event, the one before its leaving event. A handler
 // that moves the focus is followed by one more turn.
 void EventBridge::settleFocus() {
     while (!running_ && !stopped_) {
-        FieldRow* const focused = rowOf(window_.focusWidget());
+        FieldRow* const focused = placeOf(focusedWidget()).row;
         if (focused == active_) {
             return;
         }
@@ -189,11 +210,14 @@ void EventBridge::settleFocus() {
 }
 
 void EventBridge::moveFocus() {
+    if (const TextField* const target = focus_.takeTarget()) {
+        giveFocusTo(*target);
+    }
     const int steps = focus_.takeSteps();
     for (int i = 0; i < std::abs(steps); ++i) {
         QKeyEvent tab(QEvent::KeyPress, steps > 0 ? Qt::Key_Tab : Qt::Key_Backtab,
                       steps > 0 ? Qt::NoModifier : Qt::ShiftModifier);
-        if (QWidget* const focused = window_.focusWidget()) {
+        if (QWidget* const focused = focusedWidget()) {
             deliver(*focused, tab);
         }
     }
@@ -207,29 +231,30 @@ void EventBridge::press(FieldRow& row) {
     settleFocus();
     if (!row.widget->isHidden()) {
         run(row.click);
+        moveFocus();
     }
 }
 
-bool EventBridge::handleKey(FieldRow& row, const QKeyEvent& event) {
-    const bool walked = handleWindowKey(row, event);
-    const bool swallowed = handleCharacter(row, event);
+bool EventBridge::handleKey(const Place& place, const QKeyEvent& event) {
+    const bool walked = handleWindowKey(place, event);
+    const bool swallowed = handleCharacter(*place.row, event);
     moveFocus();
     return walked || swallowed;
 }
 
 // True when the key walked to another field. Enter on a command presses it instead, and the arrow
 // keys walk through the entries of a list.
-bool EventBridge::handleWindowKey(const FieldRow& row, const QKeyEvent& event) {
+bool EventBridge::handleWindowKey(const Place& place, const QKeyEvent& event) {
     const KeyCode code = walkingKey(event);
-    const bool presses = code == key::enter && row.click;
+    const bool presses = code == key::enter && place.row->click;
     const bool walks_list =
-        code != key::enter && qobject_cast<const QComboBox*>(row.widget) != nullptr;
-    if (code == key::none || presses || walks_list) {
+        code != key::enter && qobject_cast<const QComboBox*>(place.row->widget) != nullptr;
+    if (code == key::none || presses || walks_list || !place.window->keydown) {
         return false;
     }
-    const bool previewed = form_.KeyPreview;
-    run([&] { FrmPadrao_keydown(form_, code); });
-    return previewed;
+    bool taken = false;
+    run([&] { taken = place.window->keydown(code); });
+    return taken;
 }
 
 // True when the widget must not see the key any more.

@@ -67,6 +67,7 @@ void pushEdit(QLineEdit& edit, const TextField& field) {
     }
     select(edit, field.selection);
     edit.setReadOnly(field.locked);
+    edit.setToolTip(toQString(field.tooltip));
     colourBackground(edit, field.back_colour);
     showOrHide(edit, field.visible);
 }
@@ -123,6 +124,7 @@ QPixmap pixmapOf(const Raster& raster, const QSize& room) {
 FieldRow mirrored(QLineEdit& edit, QLabel* caption, TextField& field) {
     FieldRow row;
     row.widget = &edit;
+    row.text_field = &field;
     row.pull = [&edit, &field] {
         field.text = toText(edit.text());
         field.selection = selectionOf(edit);
@@ -180,6 +182,7 @@ FieldRow mirrored(QPushButton& button, Command& field) {
     row.widget = &button;
     row.push = [&button, &field] {
         button.setText(toQString(field.caption));
+        button.setToolTip(toQString(field.tooltip));
         showOrHide(button, field.visible);
     };
     return row;

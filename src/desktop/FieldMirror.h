@@ -17,6 +17,8 @@ namespace etiquetas {
 /// A widget beside its field: how the one takes over the other, and what its events run.
 struct FieldRow {
     QWidget* widget = nullptr;
+    /// The field, where it is one that the focus can be given to.
+    const TextField* text_field = nullptr;
     /// Takes what the operator typed or chose into the field; empty where he can't.
     std::function<void()> pull;
     /// Shows what the field holds.

@@ -1,6 +1,8 @@
 #include "desktop/FieldTable.h"
 
+#include "desktop/QtText.h"
 #include "workbench/Campos.h"
+#include "workbench/Dialogos.h"
 #include "workbench/FrmPadrao.h"
 #include "workbench/Impressao.h"
 #include "workbench/Saida.h"
@@ -93,11 +95,10 @@ constexpr Binding<Panel> panels[] = {
     {"Frame3", &FrmPadrao::Frame3},
 };
 
-// A command without a handler can't be pressed: what it opens is not there yet.
 constexpr Binding<Command> commands[] = {
     {"cmd_printacessorio", &FrmPadrao::cmd_printacessorio, {.click = cmd_printacessorio_click}},
-    {"cmd_calibra", &FrmPadrao::cmd_calibra},
-    {"cmd_parametro", &FrmPadrao::cmd_parametro},
+    {"cmd_calibra", &FrmPadrao::cmd_calibra, {.click = cmd_calibra_click}},
+    {"cmd_parametro", &FrmPadrao::cmd_parametro, {.click = cmd_parametro_click}},
     {"cmd_sair", &FrmPadrao::cmd_sair, {.click = cmd_sair_click}},
 };
 
@@ -173,9 +174,23 @@ class Table {
     std::vector<FieldRow> rows_;
 };
 
+void pushWindow(const FrmPadrao& form, QWidget& window) {
+    constexpr int twips_per_pixel = 15;
+    window.setWindowTitle(toQString(form.Caption));
+    if (form.Width > 0 && form.Height > 0) {
+        window.setFixedSize(form.Width / twips_per_pixel, form.Height / twips_per_pixel);
+    }
+}
+
+bool previewKey(FrmPadrao& form, KeyCode key) {
+    const bool previewed = form.KeyPreview;
+    FrmPadrao_keydown(form, key);
+    return previewed;
+}
+
 } // namespace
 
-std::vector<FieldRow> fieldTable(FrmPadrao& form, QWidget& window) {
+BridgedWindow fieldTable(FrmPadrao& form, QWidget& window) {
     Table table(form, window);
     table.addCaptioned<QLineEdit>(text_fields);
     table.addCaptioned<QComboBox>(lists);
@@ -184,7 +199,10 @@ std::vector<FieldRow> fieldTable(FrmPadrao& form, QWidget& window) {
     table.addPlain<QLabel>(pictures);
     table.addPlain<QGroupBox>(panels);
     table.addPlain<QPushButton>(commands);
-    return table.taken();
+    return {.window = &window,
+            .rows = table.taken(),
+            .push = [&form, &window] { pushWindow(form, window); },
+            .keydown = [&form](KeyCode key) { return previewKey(form, key); }};
 }
 
 } // namespace etiquetas

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "desktop/FieldMirror.h"
-
-#include <vector>
+#include "desktop/EventBridge.h"
 
 class QWidget;
 
@@ -12,6 +10,6 @@ struct FrmPadrao;
 
 /// Binds the fields of the Workbench to the widgets of its window, found by their object names, and
 /// to their event handlers. It is the one place that knows both.
-[[nodiscard]] std::vector<FieldRow> fieldTable(FrmPadrao& form, QWidget& window);
+[[nodiscard]] BridgedWindow fieldTable(FrmPadrao& form, QWidget& window);
 
 } // namespace etiquetas

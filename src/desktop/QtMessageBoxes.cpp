@@ -2,6 +2,7 @@
 
 #include "desktop/QtText.h"
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -34,7 +35,8 @@ void QtMessageBoxes::standOver(QWidget* window, std::function<void()> before_box
 
 Answer QtMessageBoxes::show(const Message& message) {
     before_box_();
-    QMessageBox box(window_);
+    QWidget* const active = QApplication::activeWindow();
+    QMessageBox box(active != nullptr ? active : window_);
     box.setIcon(iconOf(message.symbol));
     box.setWindowTitle(toQString(message.title.empty() ? default_title : message.title));
     // File names and order texts may hold anything, markup among it.

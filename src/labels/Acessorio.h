@@ -16,7 +16,7 @@ struct FrmPadrao;
 /// both are to be read anew before each call. `flag` is the banner ("L" or other). `barra` has 12
 /// or 13 digits; one that is refused is a failure that ends the drawing at its first label. `ref3`
 /// and `pares` are not drawn. `NomeFonte` takes the face of the label's small texts.
-// A label has as many texts as it has.
+// As many arguments as the label has texts.
 // NOLINTNEXTLINE(readability-function-size)
 void Imprime_Acessorio_40_20_2(FrmPadrao& form, TextView flag, TextView descricao_cor,
                                TextView ref3, TextView codigo, TextView barra, TextView pares,

@@ -17,7 +17,7 @@ struct FrmPadrao;
 /// which are set from the former. `flag` is the banner ("L" or other). The Code 39 bars hold all of
 /// `barra` while `txtean` is visible, else its first 12 characters; a text that they can't hold is
 /// a failure that ends the drawing at its first label. `NomeFonte` takes the label's one face.
-// A label has as many texts as it has.
+// As many arguments as the label has texts.
 // NOLINTNEXTLINE(readability-function-size)
 void EtiPack(FrmPadrao& form, TextView flag, TextView destino, TextView pedido, TextView codigo,
              TextView fornecedor, TextView descricao, TextView cor, TextView barra, TextView grade1,

@@ -16,7 +16,7 @@ struct FrmPadrao;
 /// `flag` is the banner ("L" or other). `barra` has 12 or 13 digits; one that is refused is a
 /// failure that ends the drawing at its first label. `ref3` is the end of the item code, `numero`
 /// the size. `NomeFonte` takes the face that the description is measured in.
-// A label has as many texts as it has.
+// As many arguments as the label has texts.
 // NOLINTNEXTLINE(readability-function-size)
 void Imprime_40_45_2(FrmPadrao& form, TextView flag, Text& descricao, TextView cor, TextView ref3,
                      TextView master, TextView barra, TextView numero, TextView preco,

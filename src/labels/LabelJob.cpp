@@ -7,8 +7,6 @@
 #include "platform/PrintSurface.h"
 #include "platform/Printers.h"
 
-#include <utility>
-
 namespace etiquetas {
 
 bool SelecionaImpressora(FrmPadrao& form, TextView name) {
@@ -23,8 +21,8 @@ bool SelecionaImpressora(FrmPadrao& form, TextView name) {
     return false;
 }
 
-void avisa(FrmPadrao& form, Text text, Symbol symbol) {
-    skip([&] { form.platform.messages.show({.text = std::move(text), .symbol = symbol}); });
+void avisa(FrmPadrao& form, TextView text, Symbol symbol) {
+    skip([&] { form.platform.messages.show({.text = Text(text), .symbol = symbol}); });
 }
 
 void seleciona_escolhida(FrmPadrao& form) {

@@ -54,6 +54,12 @@ inline constexpr PageSize pagina_caixa{9000, 2660};
 /// A carton label, 158.75 mm square with its edges.
 inline constexpr PageSize pagina_pack{9000, 9000};
 
+/// What the operator is told before a job, for orders and test prints alike.
+namespace aviso {
+inline constexpr TextView sem_logotipo = u"O Arquivo do Logotipo não foi localizado";
+inline constexpr TextView sem_item = u"Selecione o Item que deseja Imprimir";
+} // namespace aviso
+
 /// Makes the printer of that device name the one that the next job goes to; the name must match
 /// exactly. False where there is none, and the current printer stays.
 bool SelecionaImpressora(FrmPadrao& form, TextView name);
@@ -61,7 +67,7 @@ bool SelecionaImpressora(FrmPadrao& form, TextView name);
 // The routines below run in skip mode: a step that fails is passed over.
 
 /// Tells the operator something.
-void avisa(FrmPadrao& form, Text text, Symbol symbol = Symbol::none);
+void avisa(FrmPadrao& form, TextView text, Symbol symbol = Symbol::none);
 
 /// Selects the printer that the operator chose; where it is gone the current one stays.
 void seleciona_escolhida(FrmPadrao& form);

@@ -38,6 +38,7 @@ struct TextField {
     bool locked = false;
     Colour back_colour = white;
     Selection selection;
+    Text tooltip; // shown while the pointer rests on the field
 };
 
 /// A shown text that is not edited.
@@ -73,6 +74,14 @@ struct Panel {
 
 struct Command {
     Text caption;
+    bool visible = true;
+    Text tooltip; // shown while the pointer rests on the command
+};
+
+/// One of a group of choices, of which at most one is selected.
+struct Option {
+    Text caption;
+    bool selected = false;
     bool visible = true;
 };
 

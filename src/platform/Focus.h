@@ -4,7 +4,9 @@
 
 namespace etiquetas {
 
-/// Moving of the focus between the fields of the window. The move takes place once the event that
+struct TextField;
+
+/// Moving of the focus between the fields of a window. The move takes place once the event that
 /// asks for it has ended.
 class Focus : public Interface {
   public:
@@ -12,6 +14,8 @@ class Focus : public Interface {
     virtual void tabForward() = 0;
     /// What Shift+Tab does: the focus goes to the previous field.
     virtual void tabBackward() = 0;
+    /// Gives the focus to a field.
+    virtual void moveTo(const TextField& field) = 0;
 };
 
 } // namespace etiquetas

@@ -2,8 +2,10 @@
 
 namespace etiquetas {
 
+class CommandStart;
 class Files;
 class Focus;
+class FolderPicker;
 class MessageBoxes;
 class Pictures;
 class Pointer;
@@ -21,6 +23,8 @@ struct Platform {
     Focus& focus;
     Pointer& pointer;
     Process& process;
+    FolderPicker& folders;
+    CommandStart& commands;
 };
 
 } // namespace etiquetas

@@ -20,6 +20,13 @@ void toggle(bool& state) {
     state = !state;
 }
 
+// The size run is opened and closed as a whole, whichever of its fields is clicked.
+void toggleSizeRun(FrmPadrao& form) {
+    toggle(form.txtgrade1.locked);
+    toggle(form.txtgrade2.locked);
+    toggle(form.txttotgrade.locked);
+}
+
 // A list keeps its arrow keys to walk through its entries.
 void enterList(FrmPadrao& form) {
     form.KeyPreview = false;
@@ -215,15 +222,15 @@ void TXTOCULTAS_leave(FrmPadrao& form) {
 }
 
 void txtgrade1_dblclick(FrmPadrao& form) {
-    toggle(form.txtgrade1.locked);
+    toggleSizeRun(form);
 }
 
 void txtgrade2_dblclick(FrmPadrao& form) {
-    toggle(form.txtgrade2.locked);
+    toggleSizeRun(form);
 }
 
 void txttotgrade_dblclick(FrmPadrao& form) {
-    toggle(form.txttotgrade.locked);
+    toggleSizeRun(form);
 }
 
 void Frame4_dblclick(FrmPadrao& form) {

@@ -77,7 +77,8 @@ void TXTOCULTAS_enter(FrmPadrao& form);
 KeyCode TXTOCULTAS_key(FrmPadrao& form, KeyCode key);
 void TXTOCULTAS_leave(FrmPadrao& form);
 
-/// Lock or unlock the field.
+/// A double click on any field of the size run changes the locked state of all three of them, each
+/// to its opposite.
 void txtgrade1_dblclick(FrmPadrao& form);
 void txtgrade2_dblclick(FrmPadrao& form);
 void txttotgrade_dblclick(FrmPadrao& form);

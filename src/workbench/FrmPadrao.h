@@ -24,9 +24,112 @@ inline constexpr TextView oculta = u"Oculta";
 inline constexpr TextView frente_de_caixa_100x40 = u"Frente de Caixa100x40";
 } // namespace tipo
 
-/// A dialog that stands beside the Workbench.
-struct Dialog {
+// The dialogs stand beside the Workbench, which stays usable behind them. Each opening starts from
+// the fields as they are designed here. `to_front` is set when an open dialog is asked for again:
+// whoever shows the dialog brings it to the front and clears it.
+
+/// One dialog for each stock of labels, in which the operator sets, tests and stores the margins.
+/// What a dialog lacks is not visible.
+struct MargensDialog {
+    Text Caption;
+    Panel Frame1;
+    Label Label1{u"Margem Padrão"};
+    Label Label2; // default of `txtmargem1`
+    Label Label3; // default of `txtmargem2`
+    Label Label5{u"Novo Valor"};
+    Label Label6; // caption of `txtmargemsuperior`
+    TextField txtmargem1{.text = u"Text1", .caption = u"Coluna 1 (mm)"};
+    TextField txtmargem2{.text = u"Text1", .caption = u"Coluna 2 (mm)"};
+    TextField txtmargemsuperior;
+    TextField txtcodigo{.text = u"Text1", .visible = false};
+    Command cmd_gravar{u"&Gravar Margens"};
+    Command cmd_teste{u"&Impressão de Teste"};
+    Command cmd_exit{u"&Sair"};
     bool open = false;
+    bool to_front = false;
+};
+
+/// Margins of the hidden and accessory labels, as designed.
+[[nodiscard]] inline MargensDialog FrmMargensOcultaZPL2_design() {
+    return {.Caption = u"Calibrar Margens - Etiqueta Oculta - ZPL - 2 Colunas",
+            .Frame1 = {u"Etiqueta 40x20x2 "},
+            .Label2 = {u"3"},
+            .Label3 = {u"45"},
+            .Label6 = {u"Margem Superior"},
+            .txtmargemsuperior = {.text = u"3"}};
+}
+
+/// Margins of the box front label, as designed.
+[[nodiscard]] inline MargensDialog FrmMargensCxZPL45_design() {
+    return {.Caption = u"Calibrar Margens - Etiqueta Frente de Caixa - ZPL",
+            .Frame1 = {u"Etiqueta 45X40X2"},
+            .Label2 = {u"0"},
+            .Label3 = {u"40"},
+            .Label6 = {u"Margem Esquerda"}};
+}
+
+/// Margins of the carton label, which has one column, as designed.
+[[nodiscard]] inline MargensDialog FrmMargensPackZPL_design() {
+    return {.Caption = u"Calibrar Margens - Etiqueta Corrugada - ZPL",
+            .Frame1 = {u"Etiqueta 100x140x1"},
+            .Label2 = {u"3"},
+            .Label3 = {.visible = false},
+            .Label6 = {u"Margem Superior"},
+            .txtmargem2 = {.visible = false}};
+}
+
+/// The printer parameters. The operator sees the order folder, the panel of the standard labels and
+/// the commands; the fields of the hidden panels are stored and shown back all the same.
+struct ParametroDialog {
+    Text Caption = u"Parâmetro de Impressão";
+
+    Label Label6{u"Local de Armazenamento Padrão dos Arquivos..."};
+    TextField TXTPATH;
+    Command CMD_GETPATH{.caption = u"...",
+                        .tooltip =
+                            u"Clique aqui para Selecionar a Pasta que irá conter os arquivos..."};
+    Panel Frame5{u"Etiqueta Padrão"};
+    Label Label7{u"Etiqueta Oculta : 40 x 20 x 2 "};
+    Label Label8{u"Etiqueta PACK  : 140 x 100 x 1 "};
+    Label Label9{u"Etiqueta Acessório : 40 x 20 x 2"};
+    Label Label10{u"Etiqueta Frente de Caixa: 100 x 40 x 1"};
+    Command cmd_grava{u"&Gravar Parâmetros"};
+    Command cmd_sair{u"&Sair"};
+
+    Panel Frame1{u"Linguagem de Impressão", false};
+    Option optzpl{u"ZPL "};
+    Option optppla{u"PPLA"};
+
+    Panel Frame2{u"Porta de Comunicação da Impressora", false};
+    Option optParalela{u"Porta Paralela"};
+    Option optSerial{u"Porta Serial"};
+    Option optUsb{u"Porta USB"};
+    Panel FrameParalela{u"Porta Paralela"};
+    Label Label1{u"Informe a Porta de Impressão"};
+    ListField cmbparalela1;
+    Panel FrameSerial{u"Porta Serial"};
+    Label Label2{u"Informe a Porta de Impressão"};
+    ListField cmbserial;
+    Label Label3{u"Configuração da Porta Serial"};
+    TextField txtserialconfiguracao{.text = u"9800,N,8,1"}; // no standard rate; only stored
+    Panel FrameUSB{u"Porta USB", false};
+    Label Label5{u"Informe a Porta de Impressão"};
+    ListField cmbparalela2;
+    Label Label4{u"Nome do Compartilhamento"};
+    TextField txtnomecompartilhamento;
+
+    Panel Frame3{u"Formato da Etiqueta Oculta", false};
+    Option optoculta1{u"30x10x3"};
+    Option optoculta2{u"10x30x7"};
+    Option optoculta3{u"10x30x8"};
+    Option optoculta4{u"30x10x2"};
+
+    Panel Frame4{u"Formato da Etiqueta Frente de Caixa/Acessório", false};
+    Option optfrentecaixa1{u"40x45x2"};
+    Option optfrentecaixa2{u"45x40x2"};
+
+    bool open = false;
+    bool to_front = false;
 };
 
 /// The Workbench: the one window of the system, whose fields are its data model. Loaders write an
@@ -152,9 +255,13 @@ struct FrmPadrao {
     ListField cmbvelocidade{.caption = u"Velocidade", .visible = false};
 
     // Dialogs
-    Dialog FrmMargensOcultaZPL2;
-    Dialog FrmMargensCxZPL45;
-    Dialog FrmMargensPackZPL;
+    MargensDialog FrmMargensOcultaZPL2 = FrmMargensOcultaZPL2_design();
+    MargensDialog FrmMargensCxZPL45 = FrmMargensCxZPL45_design();
+    MargensDialog FrmMargensPackZPL = FrmMargensPackZPL_design();
+    ParametroDialog FrmParametroImpressora;
+    /// True from the first time on that the parameter dialog was activated: only then it shows what
+    /// is stored. Opened again it shows its fields as designed.
+    bool ParametrosCarregados = false;
 
     // Margins, millimetres; each job reads its own from the settings file
     float Margem_oculta1 = 0;

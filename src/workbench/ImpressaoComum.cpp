@@ -23,7 +23,7 @@ Course testa_logos(FrmPadrao& form) {
     if (tem_logos(form)) {
         return Course::goes_on;
     }
-    avisa(form, u"O Arquivo do Logotipo não foi localizado", Symbol::stop);
+    avisa(form, aviso::sem_logotipo, Symbol::stop);
     return Course::ends;
 }
 
@@ -39,7 +39,7 @@ Course testa_descricao(FrmPadrao& form, const TextField& description) {
     if (!isBlank(description.text)) {
         return Course::goes_on;
     }
-    avisa(form, u"Selecione o Item que deseja Imprimir");
+    avisa(form, aviso::sem_item);
     return Course::ends;
 }
 

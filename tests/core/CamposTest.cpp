@@ -121,15 +121,21 @@ TEST_F(CamposTest, TotalsAndTheirCaptions) {
 }
 
 TEST_F(CamposTest, DoubleClicksToggle) {
-    using Case = std::pair<Event, bool&>;
-    for (const auto& [click, state] : {Case{Frame4_dblclick, form.Frame2.visible},
-                                       Case{txtgrade1_dblclick, form.txtgrade1.locked},
-                                       Case{txtgrade2_dblclick, form.txtgrade2.locked},
-                                       Case{txttotgrade_dblclick, form.txttotgrade.locked}}) {
+    const auto state = [&] {
+        return std::array{form.Frame2.visible, form.txtgrade1.locked, form.txtgrade2.locked,
+                          form.txttotgrade.locked};
+    };
+    form.txtgrade2.locked = true;
+    using Case = std::pair<Event, std::array<bool, 4>>;
+    for (const auto& [click, toggled] :
+         {Case{Frame4_dblclick, {true, false, true, false}},
+          Case{txtgrade1_dblclick, {false, true, false, true}}, // all three, each to its opposite
+          Case{txtgrade2_dblclick, {false, true, false, true}},
+          Case{txttotgrade_dblclick, {false, true, false, true}}}) {
         click(form);
-        EXPECT_TRUE(state);
+        EXPECT_EQ(state(), toggled);
         click(form);
-        EXPECT_FALSE(state);
+        EXPECT_EQ(state(), (std::array{false, false, true, false}));
     }
 }
 

@@ -7,18 +7,6 @@
 
 namespace etiquetas::test {
 
-// A picture as rows of "#" and blanks.
-using Rows = std::vector<std::string>;
-
-static Rows rowsOf(const Picture& picture) {
-    Rows rows(static_cast<std::size_t>(picture->height));
-    for (std::size_t i = 0; i < picture->pixels.size(); ++i) {
-        rows[i / static_cast<std::size_t>(picture->width)] +=
-            picture->pixels[i] == black_pixel ? '#' : ' ';
-    }
-    return rows;
-}
-
 // The symbol from the widths of its bars and spaces; the guards run 5 rows on.
 static Rows symbolOf(const std::string& widths, std::size_t bar_rows, std::size_t all_rows) {
     std::string bars(11, ' ');
@@ -70,20 +58,14 @@ TEST_F(Ean13Test, ScaleIsTheHeightAndDigitsStandUnderTheBars) {
 }
 
 TEST_F(Ean13Test, Refusals) {
-    const TextView not_twelve = u"Should be 12 Digit Numbers";
-    using Case = std::pair<TextView, TextView>;
+    const std::string not_twelve = "Should be 12 Digit Numbers";
+    using Case = std::pair<TextView, std::string>;
     for (const auto& [text, description] :
          {Case{u"20445566778", not_twelve}, Case{u"2044556677888", not_twelve},
-          Case{u"20445566778 ", u"An Invalid Character Found in Bar Text"}}) {
+          Case{u"20445566778 ", "An Invalid Character Found in Bar Text"}}) {
         DesenhaEan13(box, 1, code, false);
-        try {
-            DesenhaEan13(box, 1, text, false);
-            ADD_FAILURE() << "not refused: " << utf8(text);
-        } catch (const Failure& failure) {
-            EXPECT_EQ(static_cast<std::uint32_t>(failure.number()), 0x80040201U);
-            EXPECT_EQ(failure.source() + u": " + failure.description(),
-                      u"EAN-13: " + Text(description));
-        }
+        EXPECT_EQ(failureTextOf([&, refused = text] { DesenhaEan13(box, 1, refused, false); }),
+                  "80040201 EAN-13: " + description);
         EXPECT_EQ(box.Picture(), nullptr);
         EXPECT_EQ(rowsOf(box.Image()), Rows(156, std::string(377, ' ')));
     }

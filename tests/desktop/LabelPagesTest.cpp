@@ -1,11 +1,7 @@
 #include "PdfTools.h"
-#include "demo/Operator.h"
+#include "SampleWindow.h"
 
-#include <QApplication>
 #include <QComboBox>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace etiquetas::test {
@@ -187,53 +183,7 @@ static const std::vector<Job> jobs{
      {u"2310452701003"_s}},
 };
 
-// The real window on the sample orders.
-class LabelPagesTest : public testing::TestWithParam<Job> {
-  protected:
-    LabelPagesTest() {
-        const QDir samples(QStringLiteral(ETIQUETAS_SAMPLES));
-        QDir(folder.path()).mkpath(u"imagens"_s);
-        const QStringList names = samples.entryList(QDir::Files) << u"imagens/3104527.jpg"_s;
-        for (const QString& name : names) {
-            QFile::copy(samples.filePath(name), folder.filePath(name));
-        }
-        desktop.emplace(folder.path());
-        desktop->start();
-        worker.sitAt(*desktop);
-    }
-
-    void load(int kind, const char* order) {
-        worker.choose(u"cmbtipo"_s, kind);
-        worker.type(u"txtarquivo"_s, QString::fromLatin1(order));
-        worker.press(Qt::Key_Return);
-    }
-
-    // The file that the Print command writes.
-    [[nodiscard]] QString printed() {
-        worker.click(u"cmd_printacessorio"_s);
-        const QDir written(folder.filePath(u"impressos"_s));
-        const QStringList names = written.entryList(QDir::Files);
-        EXPECT_EQ(names.size(), 1);
-        return names.isEmpty() ? QString() : written.filePath(names.first());
-    }
-
-    QTemporaryDir folder;
-    Operator worker;
-    std::optional<Desktop> desktop;
-};
-
-// How far the nearest occurrence of a text on the page is from a place, millimetres.
-static double distanceOf(const std::vector<PdfText>& page, const QString& text, QPointF place) {
-    double nearest = 1000;
-    for (const PdfText& line : page) {
-        for (qsizetype at = line.text.indexOf(text); at >= 0;
-             at = line.text.indexOf(text, at + 1)) {
-            const QPointF apart = line.origins[static_cast<std::size_t>(at)] - place;
-            nearest = std::min(nearest, std::max(std::abs(apart.x()), std::abs(apart.y())));
-        }
-    }
-    return nearest;
-}
+class LabelPagesTest : public testing::TestWithParam<Job>, protected SampleWindow {};
 
 // The symbols of a page, the left one first. Each column is read by itself, so that a decoder has
 // no choice between two.
@@ -253,15 +203,15 @@ TEST_P(LabelPagesTest, hasEachTextWithinATenthOfAMillimetreAndBarsThatScan) {
         // The list does not offer it, and leaving the list with it would hide the command.
         worker.widget<QComboBox>(u"cmbtipo"_s).setEditText(QString::fromLatin1(job.kind_text));
     }
-    const QString pdf = printed();
+    const QString pdf = writtenBy(u"cmd_printacessorio"_s);
     EXPECT_EQ(pageSizes(pdf), std::vector<QSizeF>(job.pages, job.page));
     const auto page = pageTexts(pdf).at(0);
     for (const Expected& expected : job.texts) {
         const double baseline = expected.y + expected.ascent * expected.points * 25.4 / 72;
-        EXPECT_LT(distanceOf(page, expected.text, {expected.x, baseline}), 0.1)
+        EXPECT_LT(distanceTo(page, expected.text, {expected.x, baseline}), 0.1)
             << expected.text.toStdString();
         if (job.columns_apart > 0 && expected.in_both_columns) {
-            EXPECT_LT(distanceOf(page, expected.text, {expected.x + job.columns_apart, baseline}),
+            EXPECT_LT(distanceTo(page, expected.text, {expected.x + job.columns_apart, baseline}),
                       0.1)
                 << expected.text.toStdString() << " in the second column";
         }
@@ -279,7 +229,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, LabelPagesTest, testing::ValuesIn(jobs),
 TEST_F(LabelPagesTest, drawsAtMostTwelveCharactersOfACartonCodeWithoutEan) {
     load(1, "1400081124"); // its first line has no EAN
     worker.type(u"txtprepack"_s, u"2310452701997"_s);
-    const QString pdf = printed();
+    const QString pdf = writtenBy(u"cmd_printacessorio"_s);
     for (const int resolution : {203, 300, 600}) {
         EXPECT_EQ(symbolsIn(renderedPage(pdf, 1, resolution, Tones::black_and_white)),
                   QStringList{u"231045270199"_s})

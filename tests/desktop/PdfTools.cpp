@@ -6,6 +6,9 @@
 #include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace etiquetas::test {
 
 using namespace Qt::StringLiterals;
@@ -45,6 +48,18 @@ std::vector<std::vector<PdfText>> pageTexts(const QString& pdf) {
         }
     }
     return pages;
+}
+
+double distanceTo(const std::vector<PdfText>& page, const QString& text, QPointF place) {
+    double nearest = 1000;
+    for (const PdfText& line : page) {
+        for (qsizetype at = line.text.indexOf(text); at >= 0;
+             at = line.text.indexOf(text, at + 1)) {
+            const QPointF apart = line.origins[static_cast<std::size_t>(at)] - place;
+            nearest = std::min(nearest, std::max(std::abs(apart.x()), std::abs(apart.y())));
+        }
+    }
+    return nearest;
 }
 
 QImage renderedPage(const QString& pdf, int page, int resolution, Tones tones) {

@@ -26,6 +26,11 @@ QByteArray outputOf(const QString& command);
 /// Texts of each page in drawing order, read by MuPDF.
 [[nodiscard]] std::vector<std::vector<PdfText>> pageTexts(const QString& pdf);
 
+/// How far the nearest occurrence of a text on a page is from a place of its first baseline origin,
+/// in the worse direction, millimetres.
+[[nodiscard]] double distanceTo(const std::vector<PdfText>& page, const QString& text,
+                                QPointF place);
+
 enum class Tones { black_and_white, colours };
 
 /// A page, counted from 1, as poppler shows it at a resolution in dots to the inch.

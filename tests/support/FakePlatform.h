@@ -2,8 +2,10 @@
 
 #include "base/CodePage.h"
 #include "base/Failure.h"
+#include "platform/CommandStart.h"
 #include "platform/Files.h"
 #include "platform/Focus.h"
+#include "platform/FolderPicker.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Pictures.h"
 #include "platform/Pointer.h"
@@ -24,6 +26,18 @@
 
 namespace etiquetas::test {
 
+/// A picture as rows of "#" and blanks.
+using Rows = std::vector<std::string>;
+
+inline Rows rowsOf(const Picture& picture) {
+    Rows rows(static_cast<std::size_t>(picture->height));
+    for (std::size_t i = 0; i < picture->pixels.size(); ++i) {
+        rows[i / static_cast<std::size_t>(picture->width)] +=
+            picture->pixels[i] == black_pixel ? '#' : ' ';
+    }
+    return rows;
+}
+
 inline std::string utf8(TextView text) {
     return std::filesystem::path(text).string();
 }
@@ -39,12 +53,36 @@ std::int32_t failureOf(Step&& step) {
     return 0;
 }
 
+/// How a step fails: number, source and description; empty where it ends well.
+template <typename Step>
+std::string failureTextOf(Step&& step) {
+    try {
+        std::forward<Step>(step)();
+    } catch (const Failure& failure) {
+        std::ostringstream text;
+        text << std::hex << failure.number() << ' ' << utf8(failure.source()) << ": "
+             << utf8(failure.description());
+        return text.str();
+    }
+    return {};
+}
+
 inline Failure refusal() {
     return {failure_number::file_access, u"fake", u"refused"};
 }
 
 /// What happened on the fakes, in order: one line each, a word and what it concerns, in UTF-8.
 using Log = std::vector<std::string>;
+
+/// Lines that stand in one text, with "; " between them.
+inline Log listOf(const std::string& text) {
+    Log lines;
+    std::istringstream rest(text);
+    for (std::string line; std::getline(rest >> std::ws, line, ';');) {
+        lines.push_back(line);
+    }
+    return lines;
+}
 
 /// Keeps the log of all fakes, and refuses the steps whose words are among the failing ones.
 struct Journal {
@@ -69,6 +107,25 @@ struct Journal {
         std::erase_if(lines, [&](const std::string& line) {
             return !words.contains(line.substr(0, line.find(' ')));
         });
+        return lines;
+    }
+
+    /// What was drawn, in short: units, and texts as face, size, "+" where bold, place and text.
+    /// "~" is the face of most texts. Empty texts draw nothing.
+    Log drawn() const {
+        Log lines = logged({"print", "unit", "stamp", "rule", "page"});
+        std::erase_if(lines, [](const std::string& line) { return line.ends_with(" mm "); });
+        using Short = std::pair<std::string, std::string>;
+        for (std::string& line : lines) {
+            for (const auto& [from, to] :
+                 {Short{"print Franklin Gothic Medium ", "~"}, Short{"print Calibri ", "C"},
+                  Short{"print Malgun Gothic Semilight ", "M"}, Short{"print ", ""},
+                  Short{" plain at ", " "}, Short{" bold at ", "+ "}, Short{"unit ", ""},
+                  Short{" mm", ""}}) {
+                const std::size_t at = line.find(from);
+                line = at == std::string::npos ? line : line.replace(at, from.size(), to);
+            }
+        }
         return lines;
     }
 };
@@ -126,7 +183,7 @@ struct FakeFiles final : Files, Pictures, Fake {
 };
 
 /// Printers and what they draw on. The surface keeps its state as a real one does; the log lines
-/// tell the state that a text has.
+/// tell the state that a text has. Sizes are held in steps of `size_step`, or any where that is 0.
 struct FakePrinters final : Printers, PrintSurface, Fake {
     using Fake::Fake;
 
@@ -134,7 +191,7 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
     std::vector<Text> faces{u"Malgun Gothic Semilight", u"CALIBRI ", u"Franklin Gothic Medium",
                             u"Estrangelo Edessa"};
     std::string face, weight, unit;
-    float points = 0, x = 0, y = 0;
+    float points = 0, x = 0, y = 0, size_step = 0;
 
     std::vector<Text> names() const override {
         journal.note("printers");
@@ -144,7 +201,9 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
     void makeCurrent(std::size_t at) override { journal.note("printer", utf8(devices.at(at))); }
 
     void FontName(TextView name) override { face = utf8(name); }
-    void FontSize(float size) override { points = size; }
+    void FontSize(float size) override {
+        points = size_step > 0 ? std::round(size / size_step) * size_step : size;
+    }
     void FontBold(bool bold) override { weight = bold ? "bold" : "plain"; }
     float FontSize() const override { return points; }
     void CurrentX(float at) override { x = at; }
@@ -189,13 +248,19 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
     Text Fonts(std::size_t index) const override { return faces.at(index); }
 };
 
-struct FakePlatform : Journal, MessageBoxes, Focus, Pointer, Process {
+struct FakePlatform : Journal, MessageBoxes, Focus, Pointer, Process, FolderPicker, CommandStart {
     FakeFiles files{*this};
     Pictures& pictures = files;
     FakePrinters printers{*this};
     Answer answer = Answer::yes;
 
-    Platform platform() { return {printers, printers, *this, files, files, *this, *this, *this}; }
+    /// The folder that the operator picks, and the field that was given the focus last.
+    Text picked;
+    const TextField* focused = nullptr;
+
+    Platform platform() {
+        return {printers, printers, *this, files, files, *this, *this, *this, *this, *this};
+    }
 
     Answer show(const Message& message) override {
         constexpr std::array symbols{"none", "stop", "question", "exclamation"};
@@ -206,9 +271,15 @@ struct FakePlatform : Journal, MessageBoxes, Focus, Pointer, Process {
     }
     void tabForward() override { note("focus forward"); }
     void tabBackward() override { note("focus backward"); }
+    void moveTo(const TextField& field) override { focused = &field; }
     void busy() override { note("pointer busy"); }
     void normal() override { note("pointer normal"); }
     void end() override { note("exit"); }
+    Text pick(TextView title) override {
+        note("pick", utf8(title));
+        return picked;
+    }
+    void start(TextView command_file) override { note("start", utf8(command_file)); }
 };
 
 /// A line of a box order, `rest` being the fields behind the master code.
@@ -235,6 +306,13 @@ inline std::string fileOf(const std::vector<Text>& lines) {
 struct Workbench {
     FakePlatform machine;
     FrmPadrao form{machine.platform()};
+
+    /// Logos of 1 by 2 pixels (BRISA KO) and of 3 by 4 (LUMIRA).
+    void takeLogos() {
+        form.pctlogo1.picture = std::make_shared<const Raster>(Raster{1, 2, {}});
+        form.pctlogo2.picture = std::make_shared<const Raster>(Raster{3, 4, {}});
+        form.LogoBrisakoOk = form.LogoLumiraOk = true;
+    }
 };
 
 /// The window once it has been loaded; the log is empty.

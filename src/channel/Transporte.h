@@ -1,0 +1,29 @@
+#pragma once
+
+#include "base/Text.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace etiquetas {
+
+struct FrmPadrao;
+
+// The road of labels in a printer language: the program goes into the job file "epltemp.prn", and
+// the command file "IMPRIMIR.BAT" takes that to the printer's port.
+
+/// A program in a printer language, line by line.
+using Programa = std::vector<Text>;
+
+/// How the last line of the command file ends: as any other, or with one more line feed in it.
+enum class FimDoComando : std::uint8_t { simples, com_avanco };
+
+/// Writes the job file anew and starts the command file, which runs beside the system; both stand
+/// in the program's folder. A command file that is there stays as it is, with the port of the day
+/// it was written. A step that fails is passed over, and nobody is told.
+void envia_programa(FrmPadrao& form, const Programa& programa, FimDoComando fim);
+
+/// The line with each point turned into a double quote.
+[[nodiscard]] Text com_aspas(TextView linha);
+
+} // namespace etiquetas

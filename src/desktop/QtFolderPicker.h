@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/FolderPicker.h"
+
+namespace etiquetas {
+
+/// The toolkit's folder picker, over the window that is active.
+class QtFolderPicker final : public FolderPicker {
+  public:
+    [[nodiscard]] Text pick(TextView title) override;
+};
+
+} // namespace etiquetas

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "base/Text.h"
+
+namespace etiquetas {
+
+class FolderPicker;
+
+/// Lets the operator pick a folder, under that title. Empty where he picked none, and where the
+/// picker fails.
+[[nodiscard]] Text BrowseFolder(FolderPicker& folders, TextView title);
+
+} // namespace etiquetas

@@ -1,0 +1,58 @@
+#include "workbench/Dialogos.h"
+
+#include "labels/LabelJob.h"
+#include "margins/Margens.h"
+#include "workbench/FrmPadrao.h"
+#include "workbench/FrmParametroImpressora.h"
+
+#include <array>
+
+namespace etiquetas {
+
+namespace {
+
+struct Calibrado {
+    TextView kind;
+    MargensDialog FrmPadrao::*dialog;
+};
+
+constexpr std::array<Calibrado, 4> calibrados{{
+    {tipo::acessorio, &FrmPadrao::FrmMargensOcultaZPL2},
+    {tipo::oculta, &FrmPadrao::FrmMargensOcultaZPL2},
+    {tipo::frente_de_caixa, &FrmPadrao::FrmMargensCxZPL45},
+    {tipo::corrugado, &FrmPadrao::FrmMargensPackZPL},
+}};
+
+template <typename Dialog, typename Load>
+void abre(Dialog& dialog, Load&& load) {
+    if (dialog.open) {
+        dialog.to_front = true;
+        return;
+    }
+    load();
+    dialog.open = true;
+}
+
+} // namespace
+
+void cmd_calibra_click(FrmPadrao& form) {
+    if (isBlank(form.cmb_referencia1.text) && isBlank(form.cmb_referencia.text)) {
+        avisa(form, u"Selecione um Pedido para realizar a Calibragem...");
+        return;
+    }
+    for (const Calibrado& calibrado : calibrados) {
+        if (calibrado.kind == form.cmbtipo.text) {
+            MargensDialog& dialog = form.*calibrado.dialog;
+            abre(dialog, [&] { margens_load(form, dialog); });
+        }
+    }
+}
+
+void cmd_parametro_click(FrmPadrao& form) {
+    abre(form.FrmParametroImpressora, [&] {
+        FrmParametroImpressora_load(form);
+        FrmParametroImpressora_activate(form);
+    });
+}
+
+} // namespace etiquetas

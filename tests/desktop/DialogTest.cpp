@@ -1,0 +1,190 @@
+#include "PdfTools.h"
+#include "SampleWindow.h"
+
+#include <QLineEdit>
+#include <gtest/gtest.h>
+
+namespace etiquetas::test {
+
+using namespace Qt::StringLiterals;
+
+// A margin of the sample settings, changed in its dialog, and a text of the label that it moves.
+struct Calibration {
+    const char* name;
+    int kind; // position in the list
+    const char* dialog;
+    const char* field;
+    const char* stored;
+    const char* changed;
+    const char* setting; // the line that is stored
+    QString text;
+    QPointF corner; // top left with the sample margins, millimetres
+    double rise;    // from there down to the baseline: Windows ascent of the face times the size
+    QPointF shift;
+};
+
+static void PrintTo(const Calibration& calibration, std::ostream* out) {
+    *out << calibration.name;
+}
+
+constexpr double carlito_20 = 1950.0 / 2048 * 20 * 25.4 / 72;
+constexpr double liberation_5 = 1854.0 / 2048 * 5 * 25.4 / 72;
+constexpr double liberation_7 = 1854.0 / 2048 * 7 * 25.4 / 72;
+constexpr double liberation_20 = 1854.0 / 2048 * 20 * 25.4 / 72;
+
+static const std::vector<Calibration> calibrations{
+    {"hidden_left",
+     3,
+     "FrmMargensOcultaZPL2",
+     "txtmargem1",
+     "3",
+     "5,5",
+     "\r\nMargem_oculta1=5,5\r\n",
+     u"527"_s,
+     {33.3, 2},
+     carlito_20,
+     {2.5, 0}},
+    {"accessory_right",
+     2,
+     "FrmMargensOcultaZPL2",
+     "txtmargem2",
+     "45",
+     "44",
+     "\r\nMargem_oculta11=44\r\n",
+     u"5201104"_s,
+     {50.5, 13.8},
+     liberation_5,
+     {-1, 0}},
+    {"box_front_top",
+     0,
+     "FrmMargensCxZPL45",
+     "txtmargemsuperior",
+     "3",
+     "4,25",
+     "\r\nMx4045=4,25\r\n",
+     u"3104527001"_s,
+     {2.3, 21},
+     liberation_7,
+     {0, 1.25}},
+    {"carton_left",
+     1,
+     "FrmMargensPackZPL",
+     "txtmargem1",
+     "3",
+     "10",
+     "\r\nPackX=10\r\n",
+     u"3104527001"_s,
+     {58, 29.7},
+     liberation_20,
+     {7, 0}},
+};
+
+class DialogTest : public testing::TestWithParam<Calibration>, protected SampleWindow {
+  protected:
+    void openDialog(const Calibration& calibration) {
+        worker.turnTo(u"FrmPadrao"_s);
+        worker.click(u"cmd_calibra"_s);
+        worker.turnTo(QString::fromLatin1(calibration.dialog));
+    }
+
+    void change(const Calibration& calibration) {
+        worker.type(QString::fromLatin1(calibration.field),
+                    QString::fromLatin1(calibration.changed).replace(u',', u'.'));
+    }
+
+    [[nodiscard]] bool isOpen(const char* name) {
+        for (const DialogWindow* const dialog : desktop->dialogs()) {
+            if (dialog->objectName() == QLatin1String(name)) {
+                return dialog->isVisible();
+            }
+        }
+        return false;
+    }
+
+    // How far the text is from its place with the margins as they were, moved by a shift.
+    static double apart(const QString& pdf, const Calibration& calibration, QPointF shift) {
+        const auto pages = pageTexts(pdf);
+        const QPointF baseline = calibration.corner + QPointF(0, calibration.rise) + shift;
+        return pages.empty() ? 1000 : distanceTo(pages.front(), calibration.text, baseline);
+    }
+};
+
+TEST_P(DialogTest, testsAMarginWithoutStoringItAndStoresItForTheNextJob) {
+    const Calibration& calibration = GetParam();
+    const QString field = QString::fromLatin1(calibration.field);
+    const QString print = u"cmd_printacessorio"_s;
+    load(calibration.kind, "1400050831");
+    const QByteArray before = settings();
+    openDialog(calibration);
+    EXPECT_EQ(worker.text(field), QString::fromLatin1(calibration.stored));
+    change(calibration);
+    EXPECT_EQ(worker.text(field), QString::fromLatin1(calibration.changed)) << "a point is a comma";
+    EXPECT_LT(apart(writtenBy(u"cmd_teste"_s), calibration, calibration.shift), 0.1);
+    EXPECT_EQ(settings(), before);
+
+    worker.turnTo(u"FrmPadrao"_s);
+    EXPECT_TRUE(isOpen(calibration.dialog)) << "the main window is usable beside it";
+    EXPECT_LT(apart(writtenBy(print), calibration, {}), 0.1) << "the test is forgotten";
+    EXPECT_FALSE(isOpen(calibration.dialog));
+
+    load(calibration.kind, "1400050831");
+    openDialog(calibration);
+    EXPECT_EQ(worker.text(field), QString::fromLatin1(calibration.stored));
+    change(calibration);
+    worker.press(Qt::Key_Escape);
+    EXPECT_FALSE(isOpen(calibration.dialog));
+    EXPECT_EQ(settings(), before);
+    openDialog(calibration);
+    change(calibration);
+    worker.click(u"cmd_gravar"_s);
+    EXPECT_FALSE(isOpen(calibration.dialog));
+    EXPECT_TRUE(settings().contains(calibration.setting)) << settings().toStdString();
+    worker.turnTo(u"FrmPadrao"_s);
+    EXPECT_LT(apart(writtenBy(print), calibration, calibration.shift), 0.1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Margins, DialogTest, testing::ValuesIn(calibrations),
+                         [](const auto& calibration) { return calibration.param.name; });
+
+TEST_F(DialogTest, leadsToTheFirstBlankMarginAndDropsWhatIsNoNumber) {
+    load(3, "1400050831");
+    openDialog(calibrations.front());
+    EXPECT_EQ(worker.focused(), u"txtmargem1"_s);
+    EXPECT_EQ(worker.widget<QLineEdit>(u"txtmargem1"_s).selectedText(), u"3"_s);
+    worker.type(u"txtmargem2"_s, u"-1x2.5"_s);
+    EXPECT_EQ(worker.text(u"txtmargem2"_s), u"-12,5"_s);
+    worker.type(u"txtmargemsuperior"_s, u" "_s);
+    worker.press(Qt::Key_Backspace);
+    worker.click(u"cmd_teste"_s);
+    EXPECT_EQ(worker.takeBoxes().at(0).text, u"Informe a Margem..."_s);
+    EXPECT_EQ(worker.focused(), u"txtmargemsuperior"_s);
+}
+
+TEST_F(DialogTest, keepsTheOrderFolderAndShowsStoredParametersOnce) {
+    const QString path = u"TXTPATH"_s;
+    const QString orders = folder.filePath(u"imagens"_s);
+    worker.click(u"cmd_parametro"_s);
+    worker.turnTo(u"FrmParametroImpressora"_s);
+    worker.click(u"CMD_GETPATH"_s); // and cancel
+    EXPECT_EQ(worker.takeBoxes().at(0).text, u"O Local Selecionado é Inválido..."_s);
+    worker.willPick(orders);
+    worker.click(u"CMD_GETPATH"_s);
+    EXPECT_EQ(worker.text(path), orders);
+    EXPECT_EQ(worker.widget<QLineEdit>(path).toolTip(), orders);
+    worker.turnTo(u"FrmPadrao"_s);
+    worker.click(u"cmd_parametro"_s); // to the front, as it is
+    worker.turnTo(u"FrmParametroImpressora"_s);
+    EXPECT_EQ(worker.text(path), orders);
+    worker.click(u"cmd_grava"_s);
+    EXPECT_FALSE(isOpen("FrmParametroImpressora"));
+    EXPECT_TRUE(settings().contains("Path=" + orders.toUtf8() + "\r\n"));
+    worker.turnTo(u"FrmPadrao"_s);
+    load(3, "1400050831");
+    EXPECT_EQ(worker.takeBoxes().at(0).text,
+              u"O Pedido 1400050831, não foi localizado em "_s + orders);
+    worker.click(u"cmd_parametro"_s);
+    worker.turnTo(u"FrmParametroImpressora"_s);
+    EXPECT_EQ(worker.text(path), QString());
+}
+
+} // namespace etiquetas::test
