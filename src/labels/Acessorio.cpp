@@ -86,16 +86,6 @@ struct AccessoryLabel {
     TextView promocao;
 };
 
-// Count of the first characters that are wider than the limit together; 0 where none are.
-std::size_t firstBeyondLimit(const PrintSurface& surface, TextView text) {
-    for (std::size_t count = 1; count <= text.size(); ++count) {
-        if (surface.TextWidth(left(text, count)) > line_limit) {
-            return count;
-        }
-    }
-    return 0;
-}
-
 // Breaks behind the last separator of what is too wide. Without one there is no line at all.
 std::array<TextView, 2> brokenAt(std::size_t overflow, TextView text) {
     constexpr TextView separators = u" -/.";
@@ -115,10 +105,11 @@ std::array<TextView, 2> brokenDescription(FrmPadrao& form, TextView descricao_co
     if (surface.TextWidth(descricao_cor) < line_limit) {
         return {descricao_cor, {}};
     }
+    const std::size_t overflow =
+        firstPrefix(surface, descricao_cor, [](float width) { return width > line_limit; });
     // A text that is just as wide as the limit has nothing beyond it, and stays whole.
-    const std::size_t overflow = firstBeyondLimit(surface, descricao_cor);
-    return overflow == 0 ? std::array<TextView, 2>{descricao_cor, {}}
-                         : brokenAt(overflow, descricao_cor);
+    return overflow > descricao_cor.size() ? std::array<TextView, 2>{descricao_cor, {}}
+                                           : brokenAt(overflow, descricao_cor);
 }
 
 Point nextOrigin(const FrmPadrao& form) {

@@ -56,15 +56,6 @@ struct PhotographLabel {
     TextView preco;
 };
 
-// Count of the first characters that reach the limit together. The whole text does.
-std::size_t overflowOf(const PrintSurface& surface, TextView text) {
-    std::size_t count = 1;
-    while (surface.TextWidth(left(text, count)) < line_limit) {
-        ++count;
-    }
-    return count;
-}
-
 // Breaks at the last blank that fits, or within a word that is too long by itself.
 std::array<TextView, 2> brokenDescription(FrmPadrao& form, TextView descricao) {
     PrintSurface& surface = form.platform.surface;
@@ -72,7 +63,8 @@ std::array<TextView, 2> brokenDescription(FrmPadrao& form, TextView descricao) {
     surface.FontSize(line_points);
     std::array<TextView, 2> lines{descricao, {}};
     if (surface.TextWidth(descricao) > line_limit) {
-        const std::size_t overflow = overflowOf(surface, descricao);
+        const std::size_t overflow =
+            firstPrefix(surface, descricao, [](float width) { return width >= line_limit; });
         const std::size_t blank = left(descricao, overflow).rfind(u' ');
         const std::size_t end = blank == TextView::npos ? overflow : blank + 1;
         lines = {trimmed(left(descricao, end)), trimmed(descricao.substr(end))};

@@ -80,15 +80,6 @@ void dropLineEnds(Text& text) {
                   [](char16_t character) { return character == u'\r' || character == u'\n'; });
 }
 
-// Count of the first characters that reach the limit together. The whole text does.
-std::size_t cutOf(const PrintSurface& surface, TextView text) {
-    std::size_t count = 1;
-    while (surface.TextWidth(left(text, count)) < line_limit) {
-        ++count;
-    }
-    return count;
-}
-
 // Measured in a face that the lines do not print in, and in the weight that stands.
 std::array<TextView, 2> cutDescription(FrmPadrao& form, TextView descricao) {
     PrintSurface& surface = form.platform.surface;
@@ -99,7 +90,8 @@ std::array<TextView, 2> cutDescription(FrmPadrao& form, TextView descricao) {
     }
     std::array<TextView, 2> lines{descricao, {}};
     if (surface.TextWidth(descricao) > line_limit) {
-        const std::size_t end = cutOf(surface, descricao);
+        const std::size_t end =
+            firstPrefix(surface, descricao, [](float width) { return width >= line_limit; });
         lines = {left(descricao, end), descricao.substr(end)};
     }
     surface.ScaleMode(ScaleMode::millimetres);

@@ -57,6 +57,17 @@ struct Rule {
     return {at(origin, box.corner), box.width, box.height};
 }
 
+/// Count of the first characters whose width together, in the font and unit that are set, passes a
+/// test; one more than there are characters where none does.
+template <typename Test>
+[[nodiscard]] std::size_t firstPrefix(const PrintSurface& surface, TextView text, Test&& test) {
+    std::size_t count = 1;
+    while (count <= text.size() && !test(surface.TextWidth(left(text, count)))) {
+        ++count;
+    }
+    return count;
+}
+
 /// Sets face, size and weight of the next text.
 inline void useFont(PrintSurface& surface, const Font& font) {
     surface.FontName(font.face);

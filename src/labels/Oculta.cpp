@@ -46,20 +46,13 @@ bool isDigitBehindLetter(TextView text, std::size_t position) {
     return !behind_number && isNumeric(text[position - 1]);
 }
 
-// Count of the first characters that are wider than the limit together; one more than there are
-// characters when none are. Widths only grow with the text, so that nothing beyond is measured.
-std::size_t firstBeyondLimit(const PrintSurface& surface, TextView text) {
-    std::size_t count = 1;
-    while (count <= text.size() && surface.TextWidth(left(text, count)) <= line_limit) {
-        ++count;
-    }
-    return count;
-}
-
 // Count of the characters that stay on the first line: up to the first separator at or behind the
 // limit, or up to the letter before the first digit there; the whole text when there is neither.
 std::size_t breakOf(const PrintSurface& surface, TextView text) {
-    for (std::size_t i = firstBeyondLimit(surface, text); i <= text.size(); ++i) {
+    // Widths only grow with the text, so that nothing beyond the first overflow is measured.
+    const std::size_t overflow =
+        firstPrefix(surface, text, [](float width) { return width > line_limit; });
+    for (std::size_t i = overflow; i <= text.size(); ++i) {
         if (isSeparator(text[i - 1])) {
             return i;
         }
