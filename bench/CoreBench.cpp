@@ -54,6 +54,17 @@ void lookUpBarcode(benchmark::State& state) {
 }
 BENCHMARK(lookUpBarcode)->Unit(benchmark::kMillisecond);
 
+// A pack of as many cartons as there can be.
+void loadCartons(benchmark::State& state) {
+    test::LoadedWorkbench workbench;
+    workbench.form.List1.entries = {u"1;;M;F;AZUL;BOTA;P;33;12;12;32;CD;1/32767"};
+    workbench.form.cmb_referencia1.text = u"P | BOTA | AZUL";
+    for (auto _ : state) {
+        cmb_referencia1_leave(workbench.form);
+    }
+}
+BENCHMARK(loadCartons)->Unit(benchmark::kMillisecond);
+
 void drawBars(benchmark::State& state) {
     test::FakePlatform machine;
     PictureBox picture(machine.pictures);

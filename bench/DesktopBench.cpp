@@ -1,7 +1,10 @@
-// How long real pages take: hidden labels drawn on the surface and written into a PDF file.
+// How long real pages take: labels drawn on the surface and written into a PDF file.
 
+#include "desktop/QtPictures.h"
 #include "desktop/QtPrintSurface.h"
 #include "desktop/QtPrinters.h"
+#include "labels/Corrugado.h"
+#include "labels/FrenteCaixa.h"
 #include "labels/LabelJob.h"
 #include "labels/Oculta.h"
 #include "support/FakePlatform.h"
@@ -15,28 +18,80 @@ namespace etiquetas {
 
 namespace {
 
-void printHiddenLabels(benchmark::State& state) {
-    const QTemporaryDir folder;
-    test::FakePlatform machine;
-    QtPrinters printers;
-    QtPrintSurface surface(printers, folder.path());
-    surface.onJobWritten([](const QString& path) { QFile::remove(path); });
-    Platform platform = machine.platform();
-    FrmPadrao form({printers, surface, platform.messages, platform.pictures, platform.files,
-                    platform.focus, platform.pointer, platform.process});
-    form.Margem_oculta1 = 3;
-    form.Margem_oculta11 = 45;
-    form.Margem_oculta2 = 3;
+// The Workbench on a real surface and real pictures; all else is a stand-in.
+class PaperWorkbench {
+  public:
+    PaperWorkbench() {
+        surface_.onJobWritten([](const QString& path) { QFile::remove(path); });
+        form.pctlogo2.picture = pictures_.load(u"" ETIQUETAS_SAMPLES "/lumira.jpg");
+        form.Margem_oculta11 = 45;
+        form.Mx4045_2 = 40;
+        form.txtgrade1.text = u"33 34 35 36 37 38 39 40";
+        form.lblmax.caption = u"9999";
+    }
+
+  private:
+    static Platform platformOf(test::FakePlatform& machine, QtPrinters& printers,
+                               QtPrintSurface& surface) {
+        const Platform fake = machine.platform();
+        return {printers,   surface,      fake.messages, fake.pictures, fake.files,
+                fake.focus, fake.pointer, fake.process,  fake.folders,  fake.commands};
+    }
+
+    QTemporaryDir folder_;
+    test::FakePlatform machine_;
+    QtPictures pictures_;
+    QtPrinters printers_;
+    QtPrintSurface surface_{printers_, folder_.path()};
+
+  public:
+    FrmPadrao form{platformOf(machine_, printers_, surface_)};
+};
+
+void drawHidden(FrmPadrao& form, std::int16_t labels) {
+    define_pagina(form, pagina_oculta);
+    Imprime_Oculta_40_20_2(form, u"L", u"TÊNIS CASUAL FEMININO CANO BAIXO", u"527", u"3104527001",
+                           u"2310452701003", u"33", labels, u"CAFÉ");
+}
+
+void drawBoxFronts(FrmPadrao& form, std::int16_t labels) {
+    define_pagina(form, pagina_caixa);
+    Text description = u"TÊNIS CASUAL FEMININO CANO BAIXO";
+    Imprime_40_45_2(form, u"L", description, u"CAFÉ", u"527", u"3104527001", u"2310452701003",
+                    u"33", u"139,99", labels, u"A1", u"32/26", u"LU");
+}
+
+void drawCartons(FrmPadrao& form, std::int16_t labels) {
+    define_pagina(form, pagina_pack);
+    EtiPack(form, u"L", u"PEDRA MANSA", u"1400050831", u"3104527001", u"CALÇADOS UMBAÍRA",
+            u"TÊNIS CASUAL FEMININO CANO BAIXO", u"CAFÉ", u"2310452701997", {}, {}, u"12", 1,
+            labels, u"32/26");
+}
+
+void printLabels(benchmark::State& state, void (*draw)(FrmPadrao&, std::int16_t)) {
+    PaperWorkbench workbench;
     const auto labels = static_cast<std::int16_t>(state.range(0));
     for (auto _ : state) {
-        prepara_superficie(form, pagina_oculta);
-        Imprime_Oculta_40_20_2(form, u"L", u"TÊNIS CASUAL FEMININO CANO BAIXO", u"527",
-                               u"3104527001", u"2310452701003", u"33", labels, u"CAFÉ");
-        surface.EndDoc();
+        draw(workbench.form, labels);
+        workbench.form.platform.surface.EndDoc();
     }
     state.SetItemsProcessed(state.iterations() * labels);
 }
-BENCHMARK(printHiddenLabels)->ArgName("labels")->Arg(2)->Arg(2000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(printLabels, hidden, drawHidden)
+    ->ArgName("labels")
+    ->Arg(2)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(printLabels, box_front, drawBoxFronts)
+    ->ArgName("labels")
+    ->Arg(2)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(printLabels, carton, drawCartons)
+    ->ArgName("labels")
+    ->Arg(1)
+    ->Arg(1000)
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 

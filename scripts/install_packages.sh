@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing for a purpose: "run" (build the program and run it)
-# or "test" (build and run the tests as well). With nothing missing it only looks, and is quick.
+# Installs the Debian packages that are missing for a purpose: "run" (build the program and run it),
+# "test" (build and run the tests as well) or "bench" (build and run the benchmarks). With nothing missing it only looks, and is quick.
 set -euo pipefail
 
 case "${1:-}" in
-    run | test) purpose=$1 ;;
+    run | test | bench) purpose=$1 ;;
     *)
-        echo "usage: ${0##*/} run|test" >&2
+        echo "usage: ${0##*/} run|test|bench" >&2
         exit 2
         ;;
 esac
@@ -24,6 +24,8 @@ if [ "$purpose" = test ]; then
         fontconfig                # where the fonts are
         xvfb xauth                # a display for the real window
     )
+elif [ "$purpose" = bench ]; then
+    packages+=(libbenchmark-dev)
 elif [ -n "${WAYLAND_DISPLAY:-}" ] && [ -z "${DISPLAY:-}" ]; then
     packages+=(qt6-wayland) # a desktop without X11
 fi
