@@ -15,13 +15,13 @@ enum class Copias : std::uint8_t { uma, sem_linha };
 
 // The first lines of every ZPL program: darkness, start, number of copies, origin and speed.
 Programa inicio_zpl(const FrmPadrao& form, Copias copias) {
-    const Text velocidade(trimmed(form.cmbvelocidade.text));
-    Programa programa{u"~SD" + Text(trimmed(form.cmbintensidade.text)), u"^XA", u"^LT0"};
+    const TextView velocidade = trimmed(form.cmbvelocidade.text);
+    Programa programa{Text(u"~SD").append(trimmed(form.cmbintensidade.text)), u"^XA", u"^LT0"};
     if (copias == Copias::uma) {
         programa.emplace_back(u"^PQ1,,1,Y");
     }
     programa.emplace_back(u"^LH0,0");
-    programa.push_back(u"^PR" + velocidade + u"," + velocidade);
+    programa.push_back(Text(u"^PR").append(velocidade).append(u",").append(velocidade));
     return programa;
 }
 
@@ -129,11 +129,12 @@ Programa teste_oculta_ppla(const FrmPadrao& /*form*/, const MargensLinguagem& di
     }
     for (const TextField& margem : dialogo.txtmargem1) {
         skip([&] {
-            programa.push_back(u"19110050015" + quatro_digitos(toInteger16(margem.text)) +
-                               dialogo.txtcodigo->text);
+            programa.push_back(Text(u"19110050015")
+                                   .append(quatro_digitos(toInteger16(margem.text)))
+                                   .append(dialogo.txtcodigo->text));
         });
     }
-    programa.push_back(u"Q" + quatro_digitos(1));
+    programa.push_back(Text(u"Q").append(quatro_digitos(1)));
     programa.emplace_back(u"E");
     return programa;
 }

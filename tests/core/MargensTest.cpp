@@ -25,7 +25,7 @@ class MargensTest : public testing::Test, protected LoadedWorkbench {
         carrega_pedido(form);
         form.txtnumero[1].text = u" ";
         form.LogoBrisakoOk = form.LogoLumiraOk = true;
-        form.List1.entries.push_back(u";;527;b;c;d;e;f;g;h;i;a;2/9");
+        form.List1.entries.emplace_back(u";;527;b;c;d;e;f;g;h;i;a;2/9");
         form.cmb_referencia1.text = u"e | d | c";
         carrega_corrugado(form);
     }
@@ -115,8 +115,9 @@ TEST_F(MargensTest, TestPrintsTheItemWithTheMarginsOfTheFields) {
                "527|3104527001|204455|6677888|36|TENIS CASUAL|AZUL||"},
           Case{caixa, tipo::frente_de_caixa, "2660; at 23.5 2.5 ; at 66 2.5 ; ",
                "202611/OFERTA|OFERTA|527|FAIXA A|3104527001|TENIS CASUAL|AZUL|36|204455|6677888|"},
-          // Each column has moved to the left; the price is the "0,00" of the label before.
-          Case{oculta, tipo::acessorio, "1200; at 32.7 18 ; at 78.5 18 ; ",
+          // Any other kind. Each column has moved to the left; the price is the "0,00" of the label
+          // before.
+          Case{oculta, tipo::corrugado, "1200; at 32.7 18 ; at 78.5 18 ; ",
                "TENIS CASUAL AZUL|3104527|FAIXA A|202611/OFERTA|204455|6677888|OFERTA|527|"},
           Case{pack, tipo::oculta, "9000; at 58.5 31.7 ; ",
                "CD - DESTINO|a|PEDIDO|Cód. Master|77|527|FORNECEDOR|b|NOTA FISCAL:|Descrição|d|COR|"

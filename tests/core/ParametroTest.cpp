@@ -58,7 +58,7 @@ TEST_F(ParametroTest, WhatIsStoredIsShownAndStoredBack) {
 TEST_F(ParametroTest, SecondOpeningShowsAndStoresTheStartValues) {
     machine.files.bytes[ini] = "[Impressora]\r\nPath=/pedidos\r\n";
     open();
-    EXPECT_EQ(dialog.TXTPATH.text, u"/pedidos");
+    EXPECT_TRUE(dialog.TXTPATH.text == u"/pedidos" && dialog.FrameUSB.visible);
     dialog.TXTPATH.text = u"typed";
     open(); // it is open
     EXPECT_TRUE(dialog.to_front && dialog.TXTPATH.text == u"typed");
@@ -66,6 +66,7 @@ TEST_F(ParametroTest, SecondOpeningShowsAndStoresTheStartValues) {
     EXPECT_TRUE(machine.log.empty() && !dialog.open);
     machine.files.bytes = {{u"/programa/IMPRIMIR.BAT", ""}};
     open();
+    dialog.TXTPATH.text += u" "; // blank still
     dialog.optoculta4.selected = dialog.optfrentecaixa1.selected = true;
     EXPECT_EQ(saved(), "[Impressora]\r\nLinguagem=PPLA\r\nPorta=USB\r\nPortaSerial=Com1\r\n"
                        "ConfiguracaoPortaSerial=9800,N,8,1\r\nPortaParalela=Lpt1\r\n"
