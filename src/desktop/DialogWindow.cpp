@@ -38,6 +38,16 @@ QLineEdit* newMargin(const QString& name) {
     return margin;
 }
 
+QGroupBox* newFormatsPanel() {
+    auto* const panel = named<QGroupBox>(u"Frame5"_s);
+    auto* const column = new QVBoxLayout;
+    for (const char* const name : {"Label7", "Label8", "Label9", "Label10"}) {
+        column->addWidget(named<QLabel>(QString::fromLatin1(name)));
+    }
+    panel->setLayout(column);
+    return panel;
+}
+
 // A row of commands under all else, each as wide as the others.
 QHBoxLayout* commandRow(std::initializer_list<const char*> names) {
     auto* const row = new QHBoxLayout;
@@ -112,12 +122,7 @@ ParameterWindow::ParameterWindow() : DialogWindow(u"FrmParametroImpressora"_s) {
     folder->addWidget(path, 1);
     folder->addWidget(browse);
     column->addLayout(folder);
-    auto* const frame = named<QGroupBox>(u"Frame5"_s);
-    auto* const labels = new QVBoxLayout(frame);
-    for (const char* const name : {"Label7", "Label8", "Label9", "Label10"}) {
-        labels->addWidget(named<QLabel>(QString::fromLatin1(name)));
-    }
-    column->addWidget(frame);
+    column->addWidget(newFormatsPanel());
     column->addLayout(commandRow({"cmd_grava", "cmd_sair"}));
     column->setSizeConstraint(QLayout::SetFixedSize);
 }
