@@ -86,15 +86,20 @@ TEST_F(CamposTest, OrdersAreLoadedOnEnterAndOnLeaving) {
         load(form);
         EXPECT_EQ(form.cmb_referencia.entries.size(), items);
     }
+    form.List1.entries.push_back(u"9;AZUL;;TENIS CASUAL;W;B;1;3104527001;;;;"); // an accessory
     using Item = std::tuple<TextView, int, TextView>;
-    for (const auto& [caption, position, colour] : // the caption is the switch, not the kind
-         {Item{u"Caixa / Oculta", 1, u"RUBRO"}, Item{tipo::acessorio, 0, u"RUBRO"},
-          Item{tipo::corrugado, 0, u"RUBRO"}, Item{u"", 0, u"AZUL"}}) {
+    for (const auto& [caption, position, fields] : // the caption is the switch, not the kind
+         {Item{u"Caixa / Oculta", 1, u"RUBRO 12 Q"}, Item{tipo::acessorio, 0, u"AZUL 9 Q"},
+          Item{tipo::corrugado, 1, u"AZUL 9 "}, Item{u"", 1, u"RUBRO 12 Q"}}) {
         form.Frame1.caption = caption;
+        form.txtqte1.text = u"Q";
         form.cmb_referencia.choose(position);
         cmb_referencia_leave(form);
-        EXPECT_EQ(form.txtcor.text, colour);
+        EXPECT_EQ(form.txtcor.text + u" " + form.TXTPARES.text + u" " + form.txtqte1.text, fields);
     }
+    form.cmb_referencia1.type(u"no such item");
+    cmb_referencia1_leave(form);
+    EXPECT_EQ(form.txtqte1.text, u"");
 }
 
 TEST_F(CamposTest, TotalsAndTheirCaptions) {

@@ -12,14 +12,10 @@ using namespace Qt::StringLiterals;
 struct Calibration {
     const char* name;
     int kind; // position in the list
-    const char* dialog;
-    const char* field;
-    const char* stored;
-    const char* changed;
-    const char* setting; // the line that is stored
+    QString dialog, field, stored, changed;
+    QByteArray setting; // the line that is stored
     QString text;
-    QPointF corner; // top left with the sample margins, millimetres
-    double rise;    // from there down to the baseline: Windows ascent of the face times the size
+    QPointF baseline; // of the text with the sample margins, millimetres
     QPointF shift;
 };
 
@@ -27,74 +23,42 @@ static void PrintTo(const Calibration& calibration, std::ostream* out) {
     *out << calibration.name;
 }
 
-constexpr double carlito_20 = 1950.0 / 2048 * 20 * 25.4 / 72;
-constexpr double liberation_5 = 1854.0 / 2048 * 5 * 25.4 / 72;
-constexpr double liberation_7 = 1854.0 / 2048 * 7 * 25.4 / 72;
-constexpr double liberation_20 = 1854.0 / 2048 * 20 * 25.4 / 72;
+// From the top of a text to its baseline: the Windows ascents of Carlito and Liberation Sans.
+static constexpr double carlito(double points) {
+    return 1950.0 / 2048 * points * 25.4 / 72;
+}
+static constexpr double liberation(double points) {
+    return 1854.0 / 2048 * points * 25.4 / 72;
+}
 
+// clang-format off
 static const std::vector<Calibration> calibrations{
-    {"hidden_left",
-     3,
-     "FrmMargensOcultaZPL2",
-     "txtmargem1",
-     "3",
-     "5,5",
-     "\r\nMargem_oculta1=5,5\r\n",
-     u"527"_s,
-     {33.3, 2},
-     carlito_20,
-     {2.5, 0}},
-    {"accessory_right",
-     2,
-     "FrmMargensOcultaZPL2",
-     "txtmargem2",
-     "45",
-     "44",
-     "\r\nMargem_oculta11=44\r\n",
-     u"5201104"_s,
-     {50.5, 13.8},
-     liberation_5,
-     {-1, 0}},
-    {"box_front_top",
-     0,
-     "FrmMargensCxZPL45",
-     "txtmargemsuperior",
-     "3",
-     "4,25",
-     "\r\nMx4045=4,25\r\n",
-     u"3104527001"_s,
-     {2.3, 21},
-     liberation_7,
-     {0, 1.25}},
-    {"carton_left",
-     1,
-     "FrmMargensPackZPL",
-     "txtmargem1",
-     "3",
-     "10",
-     "\r\nPackX=10\r\n",
-     u"3104527001"_s,
-     {58, 29.7},
-     liberation_20,
-     {7, 0}},
+    {"hidden_left", 3, u"FrmMargensOcultaZPL2"_s, u"txtmargem1"_s, u"3"_s, u"5,5"_s,
+     "Margem_oculta1=5,5", u"527"_s, {33.3, 2 + carlito(20)}, {2.5, 0}},
+    {"accessory_right", 2, u"FrmMargensOcultaZPL2"_s, u"txtmargem2"_s, u"45"_s, u"44"_s,
+     "Margem_oculta11=44", u"5201104"_s, {50.5, 13.8 + liberation(5)}, {-1, 0}},
+    {"box_front_top", 0, u"FrmMargensCxZPL45"_s, u"txtmargemsuperior"_s, u"3"_s, u"4,25"_s,
+     "Mx4045=4,25", u"3104527001"_s, {2.3, 21 + liberation(7)}, {0, 1.25}},
+    {"carton_left", 1, u"FrmMargensPackZPL"_s, u"txtmargem1"_s, u"3"_s, u"10"_s,
+     "PackX=10", u"3104527001"_s, {58, 29.7 + liberation(20)}, {7, 0}},
 };
+// clang-format on
 
 class DialogTest : public testing::TestWithParam<Calibration>, protected SampleWindow {
   protected:
     void openDialog(const Calibration& calibration) {
         worker.turnTo(u"FrmPadrao"_s);
         worker.click(u"cmd_calibra"_s);
-        worker.turnTo(QString::fromLatin1(calibration.dialog));
+        worker.turnTo(calibration.dialog);
     }
 
     void change(const Calibration& calibration) {
-        worker.type(QString::fromLatin1(calibration.field),
-                    QString::fromLatin1(calibration.changed).replace(u',', u'.'));
+        worker.type(calibration.field, QString(calibration.changed).replace(u',', u'.'));
     }
 
-    [[nodiscard]] bool isOpen(const char* name) {
+    [[nodiscard]] bool isOpen(const QString& name) {
         for (const DialogWindow* const dialog : desktop->dialogs()) {
-            if (dialog->objectName() == QLatin1String(name)) {
+            if (dialog->objectName() == name) {
                 return dialog->isVisible();
             }
         }
@@ -104,21 +68,21 @@ class DialogTest : public testing::TestWithParam<Calibration>, protected SampleW
     // How far the text is from its place with the margins as they were, moved by a shift.
     static double apart(const QString& pdf, const Calibration& calibration, QPointF shift) {
         const auto pages = pageTexts(pdf);
-        const QPointF baseline = calibration.corner + QPointF(0, calibration.rise) + shift;
-        return pages.empty() ? 1000 : distanceTo(pages.front(), calibration.text, baseline);
+        return pages.empty()
+                   ? 1000
+                   : distanceTo(pages.front(), calibration.text, calibration.baseline + shift);
     }
 };
 
 TEST_P(DialogTest, testsAMarginWithoutStoringItAndStoresItForTheNextJob) {
     const Calibration& calibration = GetParam();
-    const QString field = QString::fromLatin1(calibration.field);
     const QString print = u"cmd_printacessorio"_s;
     load(calibration.kind, "1400050831");
     const QByteArray before = settings();
     openDialog(calibration);
-    EXPECT_EQ(worker.text(field), QString::fromLatin1(calibration.stored));
+    EXPECT_EQ(worker.text(calibration.field), calibration.stored);
     change(calibration);
-    EXPECT_EQ(worker.text(field), QString::fromLatin1(calibration.changed)) << "a point is a comma";
+    EXPECT_EQ(worker.text(calibration.field), calibration.changed) << "a point is a comma";
     EXPECT_LT(apart(writtenBy(u"cmd_teste"_s), calibration, calibration.shift), 0.1);
     EXPECT_EQ(settings(), before);
 
@@ -129,7 +93,7 @@ TEST_P(DialogTest, testsAMarginWithoutStoringItAndStoresItForTheNextJob) {
 
     load(calibration.kind, "1400050831");
     openDialog(calibration);
-    EXPECT_EQ(worker.text(field), QString::fromLatin1(calibration.stored));
+    EXPECT_EQ(worker.text(calibration.field), calibration.stored);
     change(calibration);
     worker.press(Qt::Key_Escape);
     EXPECT_FALSE(isOpen(calibration.dialog));
@@ -138,7 +102,8 @@ TEST_P(DialogTest, testsAMarginWithoutStoringItAndStoresItForTheNextJob) {
     change(calibration);
     worker.click(u"cmd_gravar"_s);
     EXPECT_FALSE(isOpen(calibration.dialog));
-    EXPECT_TRUE(settings().contains(calibration.setting)) << settings().toStdString();
+    EXPECT_TRUE(settings().contains("\r\n" + calibration.setting + "\r\n"))
+        << settings().toStdString();
     worker.turnTo(u"FrmPadrao"_s);
     EXPECT_LT(apart(writtenBy(print), calibration, calibration.shift), 0.1);
 }
@@ -176,7 +141,7 @@ TEST_F(DialogTest, keepsTheOrderFolderAndShowsStoredParametersOnce) {
     worker.turnTo(u"FrmParametroImpressora"_s);
     EXPECT_EQ(worker.text(path), orders);
     worker.click(u"cmd_grava"_s);
-    EXPECT_FALSE(isOpen("FrmParametroImpressora"));
+    EXPECT_FALSE(isOpen(u"FrmParametroImpressora"_s));
     EXPECT_TRUE(settings().contains("Path=" + orders.toUtf8() + "\r\n"));
     worker.turnTo(u"FrmPadrao"_s);
     load(3, "1400050831");
