@@ -13,27 +13,6 @@ using Texts = std::vector<Text>;
 
 class InicioTest : public testing::Test, protected Workbench {};
 
-TEST_F(InicioTest, FieldsAtTheOpening) {
-    EXPECT_EQ(
-        (Texts{form.txtarquivo.text, form.cmbtipo.text, form.LBLBRISAKO.caption,
-               form.Label7[0].caption, form.Label7[13].caption, form.cmd_printacessorio.caption,
-               form.cmd_calibra.caption, form.cmd_parametro.caption, form.cmd_sair.caption}),
-        (Texts{u"1400050831", u"Frente de Caixa", u"BRISA KO", u"14", u"27", u"&Imprimir Etiquetas",
-               u"&Calibrar Etiquetas", u"&Parâmetro de Impressão", u"&Sair"}));
-    EXPECT_EQ((Texts{form.Frame4.caption, form.Frame1.caption, form.Frame3.caption,
-                     form.Label7_50.caption, form.Label71.caption, form.Label72.caption,
-                     form.cmb_referencia1.caption, form.txtcodigo1.caption, form.txtprepack.caption,
-                     form.cmb_vol1.caption, form.cmb_vol2.caption, form.txtlote.caption,
-                     form.txtcliente.caption, form.CMBPRINTER.caption}),
-              (Texts{u"Selecione o Pedido", u"Caixa / Oculta", u"Corrugado", u"Pacotes",
-                     u"Total de Pares", u"Total de Etiquetas Ocultas", u"Produto", u"Cod.Master",
-                     u"Código Pré Pack", u"Volume Inicial", u"Volume Final", u"Adicionar",
-                     u"Empresa", u"Impressora"}));
-    EXPECT_TRUE(form.Frame1.visible && form.Frame4.visible && form.TXTPARES.locked);
-    EXPECT_FALSE(form.Frame2.visible || form.Frame3.visible || form.txtean.visible ||
-                 form.lblean.visible);
-}
-
 TEST_F(InicioTest, NewInstallationWithNothingThere) {
     machine.printers.faces = {u"Estrangelo Edessa", u"Calibri Light", u"Franklin Gothic Medium"};
     machine.files.bytes[u"/programa/IMPRIMIR.BAT"] = "";
