@@ -41,30 +41,30 @@ constexpr ChaveMargem superior_corrugada_zpl{u"Margem_Corrugada_ZPL_Superior", u
 constexpr ChaveMargem superior_corrugada_ppla{u"Margem_Corrugada_PPLA_Superior", u"58"};
 
 // The keys of one label in one language.
-struct Chaves {
+struct Keys {
     std::span<const ChaveMargem> colunas;
     std::optional<ChaveMargem> superior;
 };
 
 // The value of the key, its default where it is blank or where there is no settings file.
-Text le_margem(const Files& files, const ChaveMargem& margem) {
+Text readMargin(const Files& files, const ChaveMargem& margem) {
     const Text ini = caminho_ini(files);
-    Text valor;
+    Text value;
     if (files.fileExists(ini)) {
-        valor = LeIni(files, ini, secao::margens, margem.chave, {});
+        value = LeIni(files, ini, secao::margens, margem.chave, {});
     }
-    return isBlank(valor) ? Text(margem.padrao) : valor;
+    return isBlank(value) ? Text(margem.padrao) : value;
 }
 
-MargensDeEtiqueta pega(const FrmPadrao& form, const Chaves& zpl, const Chaves& ppla) {
+MargensDeEtiqueta take(const FrmPadrao& form, const Keys& zpl, const Keys& ppla) {
     const Files& files = form.platform.files;
-    const Chaves& chaves = form.lbllinguagem.caption == u"ZPL" ? zpl : ppla;
+    const Keys& keys = form.lbllinguagem.caption == u"ZPL" ? zpl : ppla;
     MargensDeEtiqueta margens;
-    for (const ChaveMargem& coluna : chaves.colunas) {
-        margens.colunas.push_back(le_margem(files, coluna));
+    for (const ChaveMargem& coluna : keys.colunas) {
+        margens.colunas.push_back(readMargin(files, coluna));
     }
-    if (chaves.superior) {
-        margens.superior = le_margem(files, *chaves.superior);
+    if (keys.superior) {
+        margens.superior = readMargin(files, *keys.superior);
     }
     return margens;
 }
@@ -72,29 +72,29 @@ MargensDeEtiqueta pega(const FrmPadrao& form, const Chaves& zpl, const Chaves& p
 } // namespace
 
 MargensDeEtiqueta pega_margemoculta(const FrmPadrao& form) {
-    return pega(form, {colunas_oculta_zpl, superior_oculta_zpl}, {colunas_oculta_ppla, {}});
+    return take(form, {colunas_oculta_zpl, superior_oculta_zpl}, {colunas_oculta_ppla, {}});
 }
 
 MargensDeEtiqueta pega_margemoculta7(const FrmPadrao& form) {
-    return pega(form, {std::span(colunas_oculta8_zpl).first<7>(), superior_oculta7_zpl},
+    return take(form, {std::span(colunas_oculta8_zpl).first<7>(), superior_oculta7_zpl},
                 {std::span(colunas_oculta8_ppla).first<7>(), {}});
 }
 
 MargensDeEtiqueta pega_margemoculta8(const FrmPadrao& form) {
-    return pega(form, {colunas_oculta8_zpl, superior_oculta8_zpl}, {colunas_oculta8_ppla, {}});
+    return take(form, {colunas_oculta8_zpl, superior_oculta8_zpl}, {colunas_oculta8_ppla, {}});
 }
 
 MargensDeEtiqueta pega_margemfc(const FrmPadrao& form) {
-    return pega(form, {colunas_frente_zpl, superior_frente_zpl}, {colunas_frente_ppla, {}});
+    return take(form, {colunas_frente_zpl, superior_frente_zpl}, {colunas_frente_ppla, {}});
 }
 
 MargensDeEtiqueta pega_margemfc2(const FrmPadrao& form) {
-    return pega(form, {colunas_frente2_zpl, superior_frente2_zpl},
+    return take(form, {colunas_frente2_zpl, superior_frente2_zpl},
                 {colunas_frente2_ppla, superior_frente2_zpl});
 }
 
 MargensDeEtiqueta pega_margemcorrugado(const FrmPadrao& form) {
-    return pega(form, {coluna_corrugada_zpl, superior_corrugada_zpl},
+    return take(form, {coluna_corrugada_zpl, superior_corrugada_zpl},
                 {coluna_corrugada_ppla, superior_corrugada_ppla});
 }
 

@@ -77,26 +77,26 @@ constexpr ModeloDeMargens modelo_frente_zpl{
     .fim = FimDoComando::com_avanco,
 };
 
-void assume(TextField& campo, TextView padrao) {
-    if (isBlank(campo.text)) {
-        campo.text = padrao;
+void fillBlank(TextField& field, TextView padrao) {
+    if (isBlank(field.text)) {
+        field.text = padrao;
     }
 }
 
-void assume_colunas(MargensLinguagem& dialogo) {
+void fillBlankColumns(MargensLinguagem& dialogo) {
     for (std::size_t i = 0; i < dialogo.txtmargem1.size(); ++i) {
-        assume(dialogo.txtmargem1[i], dialogo.Label2[i].caption);
+        fillBlank(dialogo.txtmargem1[i], dialogo.Label2[i].caption);
     }
 }
 
-void assume_superior(MargensLinguagem& dialogo) {
+void fillBlankTop(MargensLinguagem& dialogo) {
     if (dialogo.txtmargemsuperior) {
-        assume(*dialogo.txtmargemsuperior, dialogo.modelo.superior->margem.padrao);
+        fillBlank(*dialogo.txtmargemsuperior, dialogo.modelo.superior->margem.padrao);
     }
 }
 
 // What the fields hold before the settings file is read.
-void volta_ao_inicio(MargensLinguagem& dialogo) {
+void resetFields(MargensLinguagem& dialogo) {
     for (TextField& margem : dialogo.txtmargem1) {
         margem.text.clear();
     }
@@ -105,26 +105,26 @@ void volta_ao_inicio(MargensLinguagem& dialogo) {
     }
 }
 
-void le_margens_gravadas(const Files& files, MargensLinguagem& dialogo) {
+void readStored(const Files& files, MargensLinguagem& dialogo) {
     const Text ini = caminho_ini(files);
     if (!files.fileExists(ini)) {
         return;
     }
-    const auto le = [&](const ChaveMargem& margem) {
+    const auto read = [&](const ChaveMargem& margem) {
         return LeIni(files, ini, secao::margens, margem.chave, {});
     };
     const ModeloDeMargens& modelo = dialogo.modelo;
     for (std::size_t i = 0; i < dialogo.txtmargem1.size(); ++i) {
-        dialogo.txtmargem1[i].text = le(modelo.colunas[i]);
+        dialogo.txtmargem1[i].text = read(modelo.colunas[i]);
     }
     if (dialogo.txtmargemsuperior) {
-        dialogo.txtmargemsuperior->text = le(modelo.superior->margem);
+        dialogo.txtmargemsuperior->text = read(modelo.superior->margem);
     }
 }
 
 // The columns can only grow to the right: one that stands before the column at its left takes its
 // default. A column that is no number can't be compared, and stays.
-void cresce_para_a_direita(MargensLinguagem& dialogo) {
+void growToTheRight(MargensLinguagem& dialogo) {
     std::vector<TextField>& colunas = dialogo.txtmargem1;
     for (std::size_t i = 1; i < colunas.size(); ++i) {
         skip([&] {
@@ -173,15 +173,15 @@ MargensLinguagem FrmMargensCxZPL() {
 
 void MargensLinguagem_load(const FrmPadrao& form, MargensLinguagem& dialogo) {
     dialogo.open = true;
-    volta_ao_inicio(dialogo);
-    le_margens_gravadas(form.platform.files, dialogo);
-    assume_colunas(dialogo);
+    resetFields(dialogo);
+    readStored(form.platform.files, dialogo);
+    fillBlankColumns(dialogo);
     if (dialogo.txtmargemsuperior) {
-        assume(*dialogo.txtmargemsuperior, dialogo.modelo.superior->padrao_ao_abrir);
+        fillBlank(*dialogo.txtmargemsuperior, dialogo.modelo.superior->padrao_ao_abrir);
     }
     if (dialogo.txtcodigo) {
         dialogo.txtcodigo->text = form.txtcodigo.text;
-        assume(*dialogo.txtcodigo, u"50100779");
+        fillBlank(*dialogo.txtcodigo, u"50100779");
     }
 }
 
@@ -189,26 +189,26 @@ void MargensLinguagem_cmd_gravar(FrmPadrao& form, MargensLinguagem& dialogo) {
     Files& files = form.platform.files;
     const Text ini = caminho_ini(files);
     const ModeloDeMargens& modelo = dialogo.modelo;
-    const auto grava = [&](const ChaveMargem& margem, TextView valor) {
-        GravaIni(files, secao::margens, margem.chave, valor, ini);
+    const auto store = [&](const ChaveMargem& margem, TextView value) {
+        GravaIni(files, secao::margens, margem.chave, value, ini);
     };
     for (std::size_t i = 0; i < modelo.colunas.size(); ++i) {
-        const Text& digitada = dialogo.txtmargem1[i].text;
-        grava(modelo.colunas[i], isBlank(digitada) ? dialogo.Label2[i].caption : digitada);
+        const Text& typed = dialogo.txtmargem1[i].text;
+        store(modelo.colunas[i], isBlank(typed) ? dialogo.Label2[i].caption : typed);
     }
-    assume_superior(dialogo);
+    fillBlankTop(dialogo);
     if (dialogo.txtmargemsuperior) {
-        grava(modelo.superior->margem, dialogo.txtmargemsuperior->text);
+        store(modelo.superior->margem, dialogo.txtmargemsuperior->text);
     }
     dialogo.open = false;
 }
 
 void MargensLinguagem_cmd_teste(FrmPadrao& form, MargensLinguagem& dialogo) {
     const ModeloDeMargens& modelo = dialogo.modelo;
-    assume_superior(dialogo);
-    assume_colunas(dialogo);
+    fillBlankTop(dialogo);
+    fillBlankColumns(dialogo);
     if (modelo.ordem == OrdemDasColunas::crescente) {
-        cresce_para_a_direita(dialogo);
+        growToTheRight(dialogo);
     }
     envia_programa(form, modelo.teste(form, dialogo), modelo.fim);
 }

@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "base/Numbers.h"
 #include "channel/Transporte.h"
+#include "channel/Zpl.h"
 #include "platform/Focus.h"
 #include "platform/MessageBoxes.h"
 #include "workbench/FrmPadrao.h"
@@ -14,115 +15,110 @@ namespace etiquetas {
 
 namespace {
 
-constexpr std::size_t slot_da_quantidade = 2;
+constexpr std::size_t quantity_slot = 2;
 
-const TextField& quantidade(const FrmPadrao& form) {
-    return form.txtnumero[slot_da_quantidade];
+const TextField& quantityField(const FrmPadrao& form) {
+    return form.txtnumero[quantity_slot];
 }
 
-// A field of a label: its place ("x, y"), its command and its text.
-Text campo(TextView lugar, TextView comando, TextView dado) {
-    return Text(u"^FO").append(lugar).append(comando).append(dado).append(u"^FS");
-}
-
-Text linha_das_quantidades(const FrmPadrao& form) {
+Text quantitiesLine(const FrmPadrao& form) {
     constexpr std::int32_t etiquetas_por_par = 2;
-    const std::int16_t pares = toInteger16(quantidade(form).text);
-    return campo(u"540, 40", u"^A0N,25,25^FD",
-                 u"Qte: " + numberText(toInteger16(pares * etiquetas_por_par)) + u" | Imp. " +
-                     numberText(pares));
+    const std::int16_t pares = toInteger16(quantityField(form).text);
+    return zplField(u"540, 40", u"^A0N,25,25^FD",
+                    u"Qte: " + numberText(toInteger16(pares * etiquetas_por_par)) + u" | Imp. " +
+                        numberText(pares));
 }
 
-void escreve_cabecalho(const FrmPadrao& form, Programa& programa) {
+void writeHeader(const FrmPadrao& form, Programa& programa) {
     const Text pedido = u"Pedido: " + Text(trimmed(form.txtarquivo.text));
     const Text cor = u"Cor: " + Text(trimmed(form.txtcor.text));
     programa.insert(programa.end(),
                     {u"^XA", u"^MNY", u"^LT0", u"^LH0,0", u"^FO20, 5^GB800,0,4,^FS",
-                     campo(u"20, 15", u"^A0N,20,15^FD", u"Fabrica: " + form.txtcliente.text),
-                     campo(u"20, 40", u"^A0N,25,25^FD", pedido),
-                     campo(u"300, 40", u"^A0N,25,25^FD", cor)});
-    skip([&] { programa.push_back(linha_das_quantidades(form)); });
+                     zplField(u"20, 15", u"^A0N,20,15^FD", u"Fabrica: " + form.txtcliente.text),
+                     zplField(u"20, 40", u"^A0N,25,25^FD", pedido),
+                     zplField(u"300, 40", u"^A0N,25,25^FD", cor)});
+    skip([&] { programa.push_back(quantitiesLine(form)); });
     programa.insert(programa.end(), {u"^FO20, 65^GB800,0,4,^FS", u"^XZ"});
 }
 
 // A strip holds two labels: an odd number of them takes one more.
-Text linha_das_copias(const FrmPadrao& form) {
+Text copiesLine(const FrmPadrao& form) {
     constexpr std::int32_t etiquetas_por_tira = 2;
-    const std::int16_t pedidas = toInteger16(quantidade(form).text);
-    const bool impar = pedidas % etiquetas_por_tira != 0;
-    const std::int16_t etiquetas = impar ? toInteger16(std::int32_t{pedidas} + 1) : pedidas;
+    const std::int16_t wanted = toInteger16(quantityField(form).text);
+    const bool odd = wanted % etiquetas_por_tira != 0;
+    const std::int16_t etiquetas = odd ? toInteger16(std::int32_t{wanted} + 1) : wanted;
     return u"^PQ" + numberText(etiquetas / etiquetas_por_tira) + u",,1,Y";
 }
 
-void escreve_codigos(const FrmPadrao& form, Programa& programa) {
+void writeCodes(const FrmPadrao& form, Programa& programa) {
     const TextView codigo = trimmed(form.txtcodigo.text);
     programa.insert(programa.end(), {u"^XA", u"^MNY", u"^LT0"});
-    skip([&] { programa.push_back(linha_das_copias(form)); });
-    programa.insert(programa.end(), {u"^LH0,0", campo(u"135, 20", u"^A0N,55,45^FD", codigo),
-                                     campo(u"535, 20", u"^A0N,55,45^FD", codigo), u"^XZ"});
+    skip([&] { programa.push_back(copiesLine(form)); });
+    programa.insert(programa.end(), {u"^LH0,0", zplField(u"135, 20", u"^A0N,55,45^FD", codigo),
+                                     zplField(u"535, 20", u"^A0N,55,45^FD", codigo), u"^XZ"});
 }
 
 // Where the lines of a pack's label begin; the week stands at the second place.
-struct LadoDaTira {
+struct StripSide {
     TextView x;
-    TextView x_da_semana;
+    TextView week_x;
 };
 
-constexpr LadoDaTira lado_esquerdo{u"70", u"250"};
-constexpr LadoDaTira lado_direito{u"500", u"680"};
+constexpr StripSide left_side{u"70", u"250"};
+constexpr StripSide right_side{u"500", u"680"};
 
-struct LinhaDoPacote {
+struct PackLine {
     TextView x;
     TextView y;
-    TextView comando;
-    Text dado;
+    TextView command;
+    Text data;
 };
 
-std::array<LinhaDoPacote, 8> linhas_do_pacote(const FrmPadrao& form, const LadoDaTira& lado) {
+std::array<PackLine, 8> packLines(const FrmPadrao& form, const StripSide& side) {
     const TextView cor = form.txtcor.text;
     const TextView codigo = form.txtcodigo.text;
     const TextView descricao = form.txtdescricao.text;
     return {{
-        {lado.x, u"40", u"^A0N,60,50^FD", Text(mid(cor, 1, 8))},
-        {lado.x, u"100", u"^A0N,60,50^FD", Text(mid(cor, 9, 8))},
-        {lado.x, u"160", u"^A0N,70,60^FD", Text(right(codigo, 3))},
-        {lado.x, u"223", u"^A0N,30,20^FD", Text(mid(descricao, 1, 30))},
-        {lado.x, u"247", u"^A0N,30,20^FD", Text(mid(descricao, 31, 30))},
-        {lado.x, u"275", u"^BY3,,60^BEN,60,N,N,N^FD", RET_CODCERTO(codigo)},
-        {lado.x, u"350", u"^A0N,35,25^FD", Text(trimmed(codigo))},
-        {lado.x_da_semana, u"350", u"^A0N,35,25^FD", Text(trimmed(form.txtsemana.text))},
+        {side.x, u"40", u"^A0N,60,50^FD", Text(mid(cor, 1, 8))},
+        {side.x, u"100", u"^A0N,60,50^FD", Text(mid(cor, 9, 8))},
+        {side.x, u"160", u"^A0N,70,60^FD", Text(right(codigo, 3))},
+        {side.x, u"223", u"^A0N,30,20^FD", Text(mid(descricao, 1, 30))},
+        {side.x, u"247", u"^A0N,30,20^FD", Text(mid(descricao, 31, 30))},
+        {side.x, u"275", u"^BY3,,60^BEN,60,N,N,N^FD", RET_CODCERTO(codigo)},
+        {side.x, u"350", u"^A0N,35,25^FD", Text(trimmed(codigo))},
+        {side.week_x, u"350", u"^A0N,35,25^FD", Text(trimmed(form.txtsemana.text))},
     }};
 }
 
-void escreve_pacote(const FrmPadrao& form, const LadoDaTira& lado, Programa& programa) {
-    for (const LinhaDoPacote& linha : linhas_do_pacote(form, lado)) {
-        const Text lugar = Text(linha.x).append(u", ").append(linha.y);
-        programa.push_back(com_aspas(campo(lugar, linha.comando, linha.dado)));
+void writePack(const FrmPadrao& form, const StripSide& side, Programa& programa) {
+    for (const PackLine& line : packLines(form, side)) {
+        const Text place = Text(line.x).append(u", ").append(line.y);
+        programa.push_back(com_aspas(zplField(place, line.command, line.data)));
     }
 }
 
-Programa programa_dos_pacotes(const FrmPadrao& form, std::int16_t pacotes) {
+Programa packProgram(const FrmPadrao& form, std::int16_t pacotes) {
     Programa programa;
-    bool tira_aberta = false;
+    bool strip_is_open = false;
     for (std::int32_t pacote = 1; pacote <= pacotes; ++pacote) {
-        if (!tira_aberta) {
+        if (!strip_is_open) {
             programa.insert(programa.end(), {u"^XA", u"^MNY", u"^LT0", u"^LH0,0"});
         }
-        escreve_pacote(form, tira_aberta ? lado_direito : lado_esquerdo, programa);
-        if (tira_aberta) {
+        writePack(form, strip_is_open ? right_side : left_side, programa);
+        if (strip_is_open) {
             programa.emplace_back(u"^XZ");
         }
-        tira_aberta = !tira_aberta;
+        strip_is_open = !strip_is_open;
     }
-    if (tira_aberta) {
+    if (strip_is_open) {
         programa.emplace_back(u"^XZ");
     }
     return programa;
 }
 
-void pede_numero_de_pacotes(FrmPadrao& form) {
+void askForPacks(FrmPadrao& form) {
     skip([&] { form.platform.messages.show({u"Informe o Número de Pacotes"}); });
-    skip([&] { form.platform.focus.moveTo(quantidade(form)); });
+    skip([&] { form.platform.focus.moveTo(quantityField(form)); });
 }
 
 } // namespace
@@ -130,20 +126,20 @@ void pede_numero_de_pacotes(FrmPadrao& form) {
 void Imprime_OcultaNova(FrmPadrao& form, const CheckBox& cabecalho) {
     Programa programa;
     if (cabecalho.checked) {
-        escreve_cabecalho(form, programa);
+        writeHeader(form, programa);
     }
-    escreve_codigos(form, programa);
+    writeCodes(form, programa);
     envia_programa(form, programa, FimDoComando::com_avanco);
 }
 
 void Imprime_Pacote(FrmPadrao& form) {
-    if (isBlank(quantidade(form).text)) {
-        pede_numero_de_pacotes(form);
+    if (isBlank(quantityField(form).text)) {
+        askForPacks(form);
         return;
     }
     std::int16_t pacotes = 0;
-    skip([&] { pacotes = toInteger16(quantidade(form).text); });
-    envia_programa(form, programa_dos_pacotes(form, pacotes), FimDoComando::simples);
+    skip([&] { pacotes = toInteger16(quantityField(form).text); });
+    envia_programa(form, packProgram(form, pacotes), FimDoComando::simples);
 }
 
 Text RET_CODCERTO(TextView codigo) {

@@ -23,7 +23,4 @@ enum class FimDoComando : std::uint8_t { simples, com_avanco };
 /// it was written. A step that fails is passed over, and nobody is told.
 void envia_programa(FrmPadrao& form, const Programa& programa, FimDoComando fim);
 
-/// The line with each point turned into a double quote.
-[[nodiscard]] Text com_aspas(TextView linha);
-
 } // namespace etiquetas

@@ -26,31 +26,31 @@ namespace {
 constexpr std::int16_t quantidade = 2;
 
 // An entry field. Its default is a caption of the dialog, or a text where it has no caption.
-struct Entrada {
-    TextField MargensDialog::*campo;
-    Label MargensDialog::*padrao;
-    Margin margem;
-    float FrmPadrao::*linha = nullptr; // takes the margin too
+struct Entry {
+    TextField MargensDialog::*field;
+    Label MargensDialog::*default_label;
+    Margin margin;
+    float FrmPadrao::*rule_origin = nullptr; // takes the margin too
 };
 
-constexpr TextView superior_padrao = u"3";
+constexpr TextView default_top = u"3";
 
-constexpr std::array<Entrada, 3> entradas_da_faixa(const std::array<Margin, 3>& margens) {
+constexpr std::array<Entry, 3> stripEntries(const std::array<Margin, 3>& margens) {
     return {{{&MargensDialog::txtmargem1, &MargensDialog::Label2, margens[0]},
              {&MargensDialog::txtmargem2, &MargensDialog::Label3, margens[1]},
              {&MargensDialog::txtmargemsuperior, nullptr, margens[2]}}};
 }
 
-constexpr auto entradas_oculta = entradas_da_faixa(margens_oculta);
-constexpr auto entradas_caixa = entradas_da_faixa(margens_caixa);
-constexpr std::array<Entrada, 2> entradas_pack{{
+constexpr auto entries_oculta = stripEntries(margens_oculta);
+constexpr auto entries_caixa = stripEntries(margens_caixa);
+constexpr std::array<Entry, 2> entries_pack{{
     {&MargensDialog::txtmargem1, &MargensDialog::Label2, margens_pack[0], &FrmPadrao::PackLinhaX},
     {&MargensDialog::txtmargemsuperior, nullptr, margens_pack[1], &FrmPadrao::PackLinhaY},
 }};
 
 // The first size with a quantity and a barcode, whose codes it leaves in `lblbarra` and
 // `lblmaster`.
-std::optional<std::size_t> primeiro_tamanho(FrmPadrao& form) {
+std::optional<std::size_t> firstSize(FrmPadrao& form) {
     for (std::size_t slot = 0; slot < total_slots; ++slot) {
         if (isBlank(form.txtnumero[slot].text)) {
             continue;
@@ -63,8 +63,8 @@ std::optional<std::size_t> primeiro_tamanho(FrmPadrao& form) {
     return std::nullopt;
 }
 
-void desenha_oculta(FrmPadrao& form) {
-    if (const auto slot = primeiro_tamanho(form)) {
+void drawHidden(FrmPadrao& form) {
+    if (const auto slot = firstSize(form)) {
         skip([&] {
             Imprime_Oculta_40_20_2(form, form.marca_logo, trimmed(form.txtdescricao.text),
                                    ref3(form), form.lblmaster.caption, form.lblbarra.caption,
@@ -74,7 +74,7 @@ void desenha_oculta(FrmPadrao& form) {
     }
 }
 
-void desenha_acessorio(FrmPadrao& form) {
+void drawAccessory(FrmPadrao& form) {
     skip([&] {
         Imprime_Acessorio_40_20_2(form, form.marca_logo, descricao_cor(form), ref3(form),
                                   form.txtcodigo.text, form.lblbarra.caption, form.TXTPARES.text,
@@ -83,16 +83,16 @@ void desenha_acessorio(FrmPadrao& form) {
     });
 }
 
-void desenha_faixa_40x20(FrmPadrao& form) {
+void drawStrip40x20(FrmPadrao& form) {
     if (form.cmbtipo.text == tipo::oculta) {
-        desenha_oculta(form);
+        drawHidden(form);
     } else {
-        desenha_acessorio(form);
+        drawAccessory(form);
     }
 }
 
-void desenha_caixa(FrmPadrao& form) {
-    const auto slot = primeiro_tamanho(form);
+void drawBoxFront(FrmPadrao& form) {
+    const auto slot = firstSize(form);
     if (!slot) {
         return;
     }
@@ -107,7 +107,7 @@ void desenha_caixa(FrmPadrao& form) {
 }
 
 // One carton: the first volume that the operator chose.
-void desenha_pack(FrmPadrao& form) {
+void drawCarton(FrmPadrao& form) {
     skip([&] {
         const std::int16_t volume = toInteger16(form.cmb_vol1.text);
         EtiPack(form, form.marca_logo, form.txtdestino1.text, form.txtarquivo.text,
@@ -119,13 +119,13 @@ void desenha_pack(FrmPadrao& form) {
 
 // What is looked at once all margins are there. True where the test goes on.
 
-bool inicia_faixa_40x20(FrmPadrao& form) {
+bool beginStrip40x20(FrmPadrao& form) {
     form.coluna_etiqueta = 1;
     return true;
 }
 
 // The kind may have changed since the dialog was opened.
-bool inicia_faixa_de_caixa(FrmPadrao& form) {
+bool beginBoxFronts(FrmPadrao& form) {
     form.coluna_etiqueta = 1;
     if (form.cmbtipo.text != tipo::frente_de_caixa) {
         return false;
@@ -140,91 +140,90 @@ bool inicia_faixa_de_caixa(FrmPadrao& form) {
     return true;
 }
 
-bool inicia_pack(FrmPadrao& /*form*/) {
+bool beginCarton(FrmPadrao& /*form*/) {
     return true;
 }
 
 // What the dialogs differ in.
-struct Calibragem {
+struct Calibration {
     MargensDialog FrmPadrao::*dialog;
     MargensDialog (*design)();
-    std::span<const Entrada> entradas;
-    PageSize pagina;
-    bool (*inicia)(FrmPadrao&);
-    void (*desenha)(FrmPadrao&);
+    std::span<const Entry> entries;
+    PageSize page;
+    bool (*begin)(FrmPadrao&);
+    void (*draw)(FrmPadrao&);
 };
 
-constexpr std::array<Calibragem, 3> calibragens{{
-    {&FrmPadrao::FrmMargensOcultaZPL2, FrmMargensOcultaZPL2_design, entradas_oculta, pagina_oculta,
-     inicia_faixa_40x20, desenha_faixa_40x20},
-    {&FrmPadrao::FrmMargensCxZPL45, FrmMargensCxZPL45_design, entradas_caixa, pagina_caixa,
-     inicia_faixa_de_caixa, desenha_caixa},
-    {&FrmPadrao::FrmMargensPackZPL, FrmMargensPackZPL_design, entradas_pack, pagina_pack,
-     inicia_pack, desenha_pack},
+constexpr std::array<Calibration, 3> calibrations{{
+    {&FrmPadrao::FrmMargensOcultaZPL2, FrmMargensOcultaZPL2_design, entries_oculta, pagina_oculta,
+     beginStrip40x20, drawStrip40x20},
+    {&FrmPadrao::FrmMargensCxZPL45, FrmMargensCxZPL45_design, entries_caixa, pagina_caixa,
+     beginBoxFronts, drawBoxFront},
+    {&FrmPadrao::FrmMargensPackZPL, FrmMargensPackZPL_design, entries_pack, pagina_pack,
+     beginCarton, drawCarton},
 }};
 
-const Calibragem& calibragem_de(const FrmPadrao& form, const MargensDialog& dialog) {
-    return *std::find_if(calibragens.begin(), calibragens.end(),
-                         [&](const Calibragem& row) { return &(form.*row.dialog) == &dialog; });
+const Calibration& calibrationOf(const FrmPadrao& form, const MargensDialog& dialog) {
+    return *std::find_if(calibrations.begin(), calibrations.end(),
+                         [&](const Calibration& row) { return &(form.*row.dialog) == &dialog; });
 }
 
-TextView padrao(const MargensDialog& dialog, const Entrada& entrada) {
-    return entrada.padrao == nullptr ? superior_padrao : (dialog.*entrada.padrao).caption;
+TextView defaultOf(const MargensDialog& dialog, const Entry& entry) {
+    return entry.default_label == nullptr ? default_top : (dialog.*entry.default_label).caption;
 }
 
-TextView digitado_ou_padrao(const MargensDialog& dialog, const Entrada& entrada) {
-    const Text& digitado = (dialog.*entrada.campo).text;
-    return isBlank(digitado) ? padrao(dialog, entrada) : digitado;
+TextView typedOrDefault(const MargensDialog& dialog, const Entry& entry) {
+    const Text& typed = (dialog.*entry.field).text;
+    return isBlank(typed) ? defaultOf(dialog, entry) : typed;
 }
 
-void le_campos(const FrmPadrao& form, MargensDialog& dialog, std::span<const Entrada> entradas) {
+void readFields(const FrmPadrao& form, MargensDialog& dialog, std::span<const Entry> entries) {
     const Files& files = form.platform.files;
     const Text file = caminho_ini(files);
     if (!files.fileExists(file)) {
         return;
     }
-    for (const Entrada& entrada : entradas) {
-        (dialog.*entrada.campo).text = LeIni(files, file, secao::margens, entrada.margem.key, {});
+    for (const Entry& entry : entries) {
+        (dialog.*entry.field).text = LeIni(files, file, secao::margens, entry.margin.key, {});
     }
 }
 
-void completa_campos(MargensDialog& dialog, std::span<const Entrada> entradas) {
-    for (const Entrada& entrada : entradas) {
-        Text& digitado = (dialog.*entrada.campo).text;
-        if (isBlank(digitado)) {
-            digitado = padrao(dialog, entrada);
+void fillBlankFields(MargensDialog& dialog, std::span<const Entry> entries) {
+    for (const Entry& entry : entries) {
+        Text& typed = (dialog.*entry.field).text;
+        if (isBlank(typed)) {
+            typed = defaultOf(dialog, entry);
         }
     }
 }
 
 // A copy of the item code, which nothing reads.
-void copia_codigo(const FrmPadrao& form, MargensDialog& dialog) {
+void copyCode(const FrmPadrao& form, MargensDialog& dialog) {
     const Text& codigo = form.txtcodigo.text;
     dialog.txtcodigo.text = isBlank(codigo) ? u"50100779" : codigo;
 }
 
 // Tells the operator where a margin is missing, and leads him to the first one.
-bool margens_informadas(FrmPadrao& form, const MargensDialog& dialog,
-                        std::span<const Entrada> entradas) {
-    const auto blank = std::find_if(entradas.begin(), entradas.end(), [&](const Entrada& entrada) {
-        return isBlank((dialog.*entrada.campo).text);
+bool marginsAreThere(FrmPadrao& form, const MargensDialog& dialog, std::span<const Entry> entries) {
+    const auto blank = std::find_if(entries.begin(), entries.end(), [&](const Entry& entry) {
+        return isBlank((dialog.*entry.field).text);
     });
-    if (blank == entradas.end()) {
+    if (blank == entries.end()) {
         return true;
     }
     avisa(form, u"Informe a Margem...");
-    skip([&] { form.platform.focus.moveTo(dialog.*blank->campo); });
+    skip([&] { form.platform.focus.moveTo(dialog.*blank->field); });
     return false;
 }
 
 // In memory only: the next Print command reads its margins anew.
-void toma_margens(FrmPadrao& form, const MargensDialog& dialog, std::span<const Entrada> entradas) {
-    for (const Entrada& entrada : entradas) {
+void takeMargins(FrmPadrao& form, const MargensDialog& dialog, std::span<const Entry> entries) {
+    for (const Entry& entry : entries) {
         skip([&] {
-            const float margem = toSingle((dialog.*entrada.campo).text);
-            form.*entrada.margem.variable = margem;
-            if (entrada.linha != nullptr) {
-                form.*entrada.linha = margem;
+            const float margin = toSingle((dialog.*entry.field).text);
+            form.*entry.margin.variable = margin;
+            if (entry.rule_origin != nullptr) {
+                form.*entry.rule_origin = margin;
             }
         });
     }
@@ -233,14 +232,14 @@ void toma_margens(FrmPadrao& form, const MargensDialog& dialog, std::span<const 
 } // namespace
 
 void margens_load(FrmPadrao& form, MargensDialog& dialog) {
-    const Calibragem& calibragem = calibragem_de(form, dialog);
-    dialog = calibragem.design();
+    const Calibration& calibration = calibrationOf(form, dialog);
+    dialog = calibration.design();
     // The top margin keeps the text that it is designed with.
     dialog.txtmargem1.text.clear();
     dialog.txtmargem2.text.clear();
-    le_campos(form, dialog, calibragem.entradas);
-    completa_campos(dialog, calibragem.entradas);
-    copia_codigo(form, dialog);
+    readFields(form, dialog, calibration.entries);
+    fillBlankFields(dialog, calibration.entries);
+    copyCode(form, dialog);
 }
 
 void margem_enter(TextField& field) {
@@ -254,28 +253,28 @@ KeyCode margem_key(KeyCode key) {
 void cmd_gravar_click(FrmPadrao& form, MargensDialog& dialog) {
     Files& files = form.platform.files;
     const Text file = caminho_ini(files);
-    for (const Entrada& entrada : calibragem_de(form, dialog).entradas) {
-        const Text margem(digitado_ou_padrao(dialog, entrada));
-        if (entrada.padrao == nullptr) {
-            (dialog.*entrada.campo).text = margem; // a default without a caption is shown here
+    for (const Entry& entry : calibrationOf(form, dialog).entries) {
+        const Text margin(typedOrDefault(dialog, entry));
+        if (entry.default_label == nullptr) {
+            (dialog.*entry.field).text = margin; // a default without a caption is shown here
         }
-        GravaIni(files, secao::margens, entrada.margem.key, margem, file);
+        GravaIni(files, secao::margens, entry.margin.key, margin, file);
     }
     dialog.open = false;
 }
 
 void cmd_teste_click(FrmPadrao& form, MargensDialog& dialog) {
-    const Calibragem& calibragem = calibragem_de(form, dialog);
-    if (!margens_informadas(form, dialog, calibragem.entradas) || !calibragem.inicia(form)) {
+    const Calibration& calibration = calibrationOf(form, dialog);
+    if (!marginsAreThere(form, dialog, calibration.entries) || !calibration.begin(form)) {
         return;
     }
     seleciona_escolhida(form);
     usa_milimetros(form);
-    toma_margens(form, dialog, calibragem.entradas);
-    define_pagina(form, calibragem.pagina);
+    takeMargins(form, dialog, calibration.entries);
+    define_pagina(form, calibration.page);
     usa_fonte(form);
     escolhe_marca(form);
-    calibragem.desenha(form);
+    calibration.draw(form);
     encerra_trabalho(form);
 }
 

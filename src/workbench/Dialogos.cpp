@@ -11,12 +11,12 @@ namespace etiquetas {
 
 namespace {
 
-struct Calibrado {
+struct CalibratedKind {
     TextView kind;
     MargensDialog FrmPadrao::*dialog;
 };
 
-constexpr std::array<Calibrado, 4> calibrados{{
+constexpr std::array<CalibratedKind, 4> calibrated_kinds{{
     {tipo::acessorio, &FrmPadrao::FrmMargensOcultaZPL2},
     {tipo::oculta, &FrmPadrao::FrmMargensOcultaZPL2},
     {tipo::frente_de_caixa, &FrmPadrao::FrmMargensCxZPL45},
@@ -24,7 +24,7 @@ constexpr std::array<Calibrado, 4> calibrados{{
 }};
 
 template <typename Dialog, typename Load>
-void abre(Dialog& dialog, Load&& load) {
+void openDialog(Dialog& dialog, Load&& load) {
     if (dialog.open) {
         dialog.to_front = true;
         return;
@@ -40,16 +40,16 @@ void cmd_calibra_click(FrmPadrao& form) {
         avisa(form, u"Selecione um Pedido para realizar a Calibragem...");
         return;
     }
-    for (const Calibrado& calibrado : calibrados) {
-        if (calibrado.kind == form.cmbtipo.text) {
-            MargensDialog& dialog = form.*calibrado.dialog;
-            abre(dialog, [&] { margens_load(form, dialog); });
+    for (const CalibratedKind& row : calibrated_kinds) {
+        if (row.kind == form.cmbtipo.text) {
+            MargensDialog& dialog = form.*row.dialog;
+            openDialog(dialog, [&] { margens_load(form, dialog); });
         }
     }
 }
 
 void cmd_parametro_click(FrmPadrao& form) {
-    abre(form.FrmParametroImpressora, [&] {
+    openDialog(form.FrmParametroImpressora, [&] {
         FrmParametroImpressora_load(form);
         FrmParametroImpressora_activate(form);
     });

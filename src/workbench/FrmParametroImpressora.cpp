@@ -16,68 +16,68 @@ namespace etiquetas {
 namespace {
 
 // An option and the value that is stored for it.
-struct Escolha {
+struct Choice {
     Option ParametroDialog::*option;
     TextView value;
 };
 
-constexpr std::array<Escolha, 2> linguagens{{
+constexpr std::array<Choice, 2> languages{{
     {&ParametroDialog::optzpl, u"ZPL"},
     {&ParametroDialog::optppla, u"PPLA"},
 }};
-constexpr std::array<Escolha, 3> portas{{
+constexpr std::array<Choice, 3> ports{{
     {&ParametroDialog::optParalela, u"Paralela"},
     {&ParametroDialog::optSerial, u"Serial"},
     {&ParametroDialog::optUsb, u"USB"},
 }};
-constexpr std::array<Escolha, 4> ocultas{{
+constexpr std::array<Choice, 4> hidden_formats{{
     {&ParametroDialog::optoculta1, u"3"},
     {&ParametroDialog::optoculta2, u"7"},
     {&ParametroDialog::optoculta3, u"8"},
     {&ParametroDialog::optoculta4, u"2"},
 }};
-constexpr std::array<Escolha, 2> frentes{{
+constexpr std::array<Choice, 2> box_front_formats{{
     {&ParametroDialog::optfrentecaixa1, u"40_45_2"},
     {&ParametroDialog::optfrentecaixa2, u"45_40_2"},
 }};
 
 // The panel of each port.
-struct Painel {
+struct PortPanel {
     Option ParametroDialog::*option;
     Panel ParametroDialog::*panel;
 };
-constexpr std::array<Painel, 3> paineis{{
+constexpr std::array<PortPanel, 3> port_panels{{
     {&ParametroDialog::optParalela, &ParametroDialog::FrameParalela},
     {&ParametroDialog::optUsb, &ParametroDialog::FrameUSB},
     {&ParametroDialog::optSerial, &ParametroDialog::FrameSerial},
 }};
 
 // Selects the option of the value; where no option has it the other one, or none at all.
-void seleciona_opcao(ParametroDialog& dialog, std::span<const Escolha> group, TextView value,
-                     Option ParametroDialog::*other) {
+void selectOption(ParametroDialog& dialog, std::span<const Choice> group, TextView value,
+                  Option ParametroDialog::*other) {
     const auto row = std::find_if(group.begin(), group.end(),
-                                  [&](const Escolha& choice) { return choice.value == value; });
+                                  [&](const Choice& choice) { return choice.value == value; });
     const auto selected = row == group.end() ? other : row->option;
-    for (const Escolha& choice : group) {
+    for (const Choice& choice : group) {
         (dialog.*choice.option).selected = choice.option == selected;
     }
 }
 
-std::optional<TextView> valor_selecionado(const ParametroDialog& dialog,
-                                          std::span<const Escolha> group) {
-    const auto row = std::find_if(group.begin(), group.end(), [&](const Escolha& choice) {
+std::optional<TextView> selectedValue(const ParametroDialog& dialog,
+                                      std::span<const Choice> group) {
+    const auto row = std::find_if(group.begin(), group.end(), [&](const Choice& choice) {
         return (dialog.*choice.option).selected;
     });
     return row == group.end() ? std::nullopt : std::optional(row->value);
 }
 
-void mostra_somente(ParametroDialog& dialog, Panel ParametroDialog::*shown) {
-    for (const Painel& painel : paineis) {
-        (dialog.*painel.panel).visible = painel.panel == shown;
+void showOnly(ParametroDialog& dialog, Panel ParametroDialog::*shown) {
+    for (const PortPanel& row : port_panels) {
+        (dialog.*row.panel).visible = row.panel == shown;
     }
 }
 
-void preenche(ListField& list, TextView port, int count) {
+void fill(ListField& list, TextView port, int count) {
     list.clear();
     for (int number = 1; number <= count; ++number) {
         list.entries.push_back(Text(port).append(numberText(number)));
@@ -86,19 +86,19 @@ void preenche(ListField& list, TextView port, int count) {
 }
 
 // The row stays where no row is just like the value.
-void escolhe_linha(ListField& list, TextView value) {
+void chooseRow(ListField& list, TextView value) {
     const auto row = std::find(list.entries.begin(), list.entries.end(), value);
     if (row != list.entries.end()) {
         list.choose(static_cast<int>(row - list.entries.begin()));
     }
 }
 
-void grava(FrmPadrao& form, TextView key, TextView value) {
+void store(FrmPadrao& form, TextView key, TextView value) {
     Files& files = form.platform.files;
     GravaIni(files, secao::impressora, key, value, caminho_ini(files));
 }
 
-void substitui_pasta_inexistente(FrmPadrao& form) {
+void replaceMissingFolder(FrmPadrao& form) {
     const Files& files = form.platform.files;
     Text& folder = form.FrmParametroImpressora.TXTPATH.text;
     if (!isBlank(folder) && !files.folderExists(folder)) {
@@ -106,30 +106,30 @@ void substitui_pasta_inexistente(FrmPadrao& form) {
     }
 }
 
-void grava_linguagem(FrmPadrao& form) {
-    const auto linguagem = valor_selecionado(form.FrmParametroImpressora, linguagens);
-    form.lbllinguagem.caption = linguagem.value_or(u"PPLA");
-    grava(form, u"Linguagem", form.lbllinguagem.caption);
+void storeLanguage(FrmPadrao& form) {
+    const auto language = selectedValue(form.FrmParametroImpressora, languages);
+    form.lbllinguagem.caption = language.value_or(u"PPLA");
+    store(form, u"Linguagem", form.lbllinguagem.caption);
 }
 
-void grava_porta(FrmPadrao& form) {
-    const TextView porta = valor_selecionado(form.FrmParametroImpressora, portas).value_or(u"USB");
-    grava(form, u"Porta", porta);
-    form.lblporta.caption = upperCase(porta);
+void storePort(FrmPadrao& form) {
+    const TextView port = selectedValue(form.FrmParametroImpressora, ports).value_or(u"USB");
+    store(form, u"Porta", port);
+    form.lblporta.caption = upperCase(port);
 }
 
 // Whichever port is selected.
-void grava_ajustes_das_portas(FrmPadrao& form) {
+void storePortSettings(FrmPadrao& form) {
     const ParametroDialog& dialog = form.FrmParametroImpressora;
-    grava(form, u"PortaSerial", dialog.cmbserial.text);
-    grava(form, u"ConfiguracaoPortaSerial", dialog.txtserialconfiguracao.text);
-    grava(form, u"PortaParalela", dialog.cmbparalela1.text);
+    store(form, u"PortaSerial", dialog.cmbserial.text);
+    store(form, u"ConfiguracaoPortaSerial", dialog.txtserialconfiguracao.text);
+    store(form, u"PortaParalela", dialog.cmbparalela1.text);
     form.LBLPORTAPARELELA.caption = dialog.cmbparalela1.text;
-    grava(form, u"PortaParalelaUSB", dialog.cmbparalela2.text);
-    grava(form, u"NomeCompartilhamento", dialog.txtnomecompartilhamento.text);
+    store(form, u"PortaParalelaUSB", dialog.cmbparalela2.text);
+    store(form, u"NomeCompartilhamento", dialog.txtnomecompartilhamento.text);
 }
 
-void grava_pasta(FrmPadrao& form) {
+void storeFolder(FrmPadrao& form) {
     const Files& files = form.platform.files;
     Text& folder = form.FrmParametroImpressora.TXTPATH.text;
     if (files.folderExists(folder)) {
@@ -139,13 +139,13 @@ void grava_pasta(FrmPadrao& form) {
         folder.clear();
         form.lblpath.caption = files.programFolder();
     }
-    grava(form, u"Path", folder);
+    store(form, u"Path", folder);
 }
 
 // A format that is not chosen stays as it is stored.
-void grava_formato(FrmPadrao& form, TextView key, std::span<const Escolha> group, Label& shown) {
-    if (const auto format = valor_selecionado(form.FrmParametroImpressora, group)) {
-        grava(form, key, *format);
+void storeFormat(FrmPadrao& form, TextView key, std::span<const Choice> group, Label& shown) {
+    if (const auto format = selectedValue(form.FrmParametroImpressora, group)) {
+        store(form, key, *format);
         shown.caption = *format;
     }
 }
@@ -157,9 +157,9 @@ void FrmParametroImpressora_load(FrmPadrao& form) {
     constexpr int serial_ports = 9;
     ParametroDialog& dialog = form.FrmParametroImpressora;
     dialog = {};
-    preenche(dialog.cmbparalela1, u"Lpt", parallel_ports);
-    preenche(dialog.cmbparalela2, u"Lpt", parallel_ports);
-    preenche(dialog.cmbserial, u"Com", serial_ports);
+    fill(dialog.cmbparalela1, u"Lpt", parallel_ports);
+    fill(dialog.cmbparalela2, u"Lpt", parallel_ports);
+    fill(dialog.cmbserial, u"Com", serial_ports);
 }
 
 void FrmParametroImpressora_activate(FrmPadrao& form) {
@@ -176,26 +176,27 @@ void load_parametros(FrmPadrao& form) {
         return;
     }
     ParametroDialog& dialog = form.FrmParametroImpressora;
-    const auto le = [&](TextView key) { return LeIni(files, file, secao::impressora, key, {}); };
-    seleciona_opcao(dialog, linguagens, le(u"Linguagem"), &ParametroDialog::optzpl);
-    dialog.TXTPATH.text = le(u"Path");
-    escolhe_linha(dialog.cmbserial, le(u"PortaSerial"));
-    dialog.txtserialconfiguracao.text = le(u"ConfiguracaoPortaSerial");
-    escolhe_linha(dialog.cmbparalela2, le(u"PortaParalelaUSB"));
-    dialog.txtnomecompartilhamento.text = le(u"NomeCompartilhamento");
-    escolhe_linha(dialog.cmbparalela1, le(u"PortaParalela"));
-    seleciona_opcao(dialog, portas, le(u"Porta"), &ParametroDialog::optUsb);
+    const auto read = [&](TextView key) { return LeIni(files, file, secao::impressora, key, {}); };
+    selectOption(dialog, languages, read(u"Linguagem"), &ParametroDialog::optzpl);
+    dialog.TXTPATH.text = read(u"Path");
+    chooseRow(dialog.cmbserial, read(u"PortaSerial"));
+    dialog.txtserialconfiguracao.text = read(u"ConfiguracaoPortaSerial");
+    chooseRow(dialog.cmbparalela2, read(u"PortaParalelaUSB"));
+    dialog.txtnomecompartilhamento.text = read(u"NomeCompartilhamento");
+    chooseRow(dialog.cmbparalela1, read(u"PortaParalela"));
+    selectOption(dialog, ports, read(u"Porta"), &ParametroDialog::optUsb);
     Oculta_Frame(form);
-    seleciona_opcao(dialog, ocultas, le(u"TipoOculta"), nullptr);
-    seleciona_opcao(dialog, frentes, le(u"TipoFrenteCaixa"), &ParametroDialog::optfrentecaixa1);
+    selectOption(dialog, hidden_formats, read(u"TipoOculta"), nullptr);
+    selectOption(dialog, box_front_formats, read(u"TipoFrenteCaixa"),
+                 &ParametroDialog::optfrentecaixa1);
     dialog.TXTPATH.tooltip = dialog.TXTPATH.text;
 }
 
 void Oculta_Frame(FrmPadrao& form) {
     ParametroDialog& dialog = form.FrmParametroImpressora;
-    for (const Painel& painel : paineis) {
-        if ((dialog.*painel.option).selected) {
-            mostra_somente(dialog, painel.panel);
+    for (const PortPanel& row : port_panels) {
+        if ((dialog.*row.option).selected) {
+            showOnly(dialog, row.panel);
         }
     }
 }
@@ -213,13 +214,13 @@ void CMD_GETPATH_click(FrmPadrao& form) {
 }
 
 void cmd_grava_click(FrmPadrao& form) {
-    substitui_pasta_inexistente(form);
-    grava_linguagem(form);
-    grava_porta(form);
-    grava_ajustes_das_portas(form);
-    grava_pasta(form);
-    grava_formato(form, u"TipoOculta", ocultas, form.lbloculta);
-    grava_formato(form, u"TipoFrenteCaixa", frentes, form.frentecaixa);
+    replaceMissingFolder(form);
+    storeLanguage(form);
+    storePort(form);
+    storePortSettings(form);
+    storeFolder(form);
+    storeFormat(form, u"TipoOculta", hidden_formats, form.lbloculta);
+    storeFormat(form, u"TipoFrenteCaixa", box_front_formats, form.frentecaixa);
     ParametroDialog& dialog = form.FrmParametroImpressora;
     form.lblcompartilhamento.caption = dialog.txtnomecompartilhamento.text;
     apaga_comando(form.platform.files);

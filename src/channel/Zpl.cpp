@@ -1,0 +1,13 @@
+#include "channel/Zpl.h"
+
+namespace etiquetas {
+
+Text zplField(TextView place, TextView command, TextView data) {
+    return Text(u"^FO").append(place).append(command).append(data).append(u"^FS");
+}
+
+Text com_aspas(TextView line) {
+    return replaceAll(line, u".", u"\"");
+}
+
+} // namespace etiquetas
