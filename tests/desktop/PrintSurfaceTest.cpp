@@ -75,6 +75,9 @@ TEST_F(PrintSurfaceTest, startsAPageOfTheCurrentSizeWithItsFirstDrawing) {
               (std::vector<QSizeF>{{450, 133}, {450, 60}, {450, 450}, {60, 450}}));
     EXPECT_EQ(pages.at(0).at(1).text + pages.at(1).at(0).text + pages.at(3).at(0).text, u"BCD"_s);
     EXPECT_EQ(colourAt(renderedPage(written, 3, ten_dots, Tones::colours), 20, 145), red);
+    printers.makeCurrent(1); // takes its own page until a size is set
+    print(3, 3, u"E");
+    EXPECT_EQ(pageSizes(finished()), (std::vector<QSizeF>{{283, 113}}));
     EXPECT_GE(labelPageSize(71, 9000).size(QPageSize::Millimeter).width(), 71 * 25.4 / 1440);
 }
 
