@@ -21,6 +21,6 @@ enum class FimDoComando : std::uint8_t { simples, com_avanco };
 /// Writes the job file anew and starts the command file, which runs beside the system; both stand
 /// in the program's folder. A command file that is there stays as it is, with the port of the day
 /// it was written. A step that fails is passed over, and nobody is told.
-void envia_programa(FrmPadrao& form, const Programa& programa, FimDoComando fim);
+void envia_programa(FrmPadrao& form, const Programa& programa, FimDoComando end);
 
 } // namespace etiquetas
