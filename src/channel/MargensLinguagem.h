@@ -60,8 +60,8 @@ void MargensLinguagem_cmd_gravar(FrmPadrao& form, MargensLinguagem& dialogo);
 
 /// Prints the test label at the margins of the fields; a blank field takes its default and shows
 /// it. Of seven or eight columns, one that stands before the column at its left takes its default
-/// too. Nothing is stored and nothing is reported; a line whose margin is no number where it needs
-/// one is left out.
+/// too. Nothing is stored and nothing is reported; a line whose margin is no number of 16 bits
+/// where it needs one is left out.
 void MargensLinguagem_cmd_teste(FrmPadrao& form, MargensLinguagem& dialogo);
 
 /// Closes the dialog; stores nothing.

@@ -7,8 +7,8 @@ namespace etiquetas {
 struct CheckBox;
 struct FrmPadrao;
 
-// Labels of the item on the Workbench as ZPL programs. A line whose number is none is left out, and
-// a step that fails is passed over.
+// Labels of the item on the Workbench as ZPL programs. A line whose number is none of 16 bits is
+// left out, and a step that fails is passed over.
 
 /// Prints the item code on strips of two labels, one for each unit of `txtnumero(2)`; with the
 /// check box on, a strip with the order's data goes ahead.

@@ -37,13 +37,20 @@ std::vector<Text> commandLines(const FrmPadrao& form, FimDoComando end) {
     return lines;
 }
 
+// Where the job can't be written, the one before it goes away, lest it be printed again.
+void writeJob(Files& files, const Text& path, const Programa& programa) {
+    if (!skip([&] { files.replace(path, bytesOf(programa)); })) {
+        skip([&] { files.deleteFile(path); });
+    }
+}
+
 } // namespace
 
 void envia_programa(FrmPadrao& form, const Programa& programa, FimDoComando end) {
     Files& files = form.platform.files;
     const Text folder = files.programFolder();
     const Text command = joined(files, folder, u"IMPRIMIR.BAT");
-    skip([&] { files.replace(joined(files, folder, u"epltemp.prn"), bytesOf(programa)); });
+    writeJob(files, joined(files, folder, u"epltemp.prn"), programa);
     skip([&] {
         if (!files.fileExists(command)) {
             files.replace(command, bytesOf(commandLines(form, end)));

@@ -19,8 +19,9 @@ using Programa = std::vector<Text>;
 enum class FimDoComando : std::uint8_t { simples, com_avanco };
 
 /// Writes the job file anew and starts the command file, which runs beside the system; both stand
-/// in the program's folder. A command file that is there stays as it is, with the port of the day
-/// it was written. A step that fails is passed over, and nobody is told.
+/// in the program's folder. The job before is never left in place of one that can't be written. A
+/// command file that is there stays as it is, with the port of the day it was written. A step that
+/// fails is passed over, and nobody is told.
 void envia_programa(FrmPadrao& form, const Programa& programa, FimDoComando end);
 
 } // namespace etiquetas

@@ -102,6 +102,7 @@ TEST_F(ChannelTest, CommandFileOfEachPortIsWrittenOnceAndStarted) {
     machine.failing = {"write"};
     envia_programa(form, {}, FimDoComando::simples);
     EXPECT_EQ(machine.log.back(), "start /programa/IMPRIMIR.BAT");
+    EXPECT_FALSE(machine.files.fileExists(u"/programa/epltemp.prn")) << "no job is sent twice";
 }
 
 TEST_F(ChannelTest, DialogsLoadAndStoreTheirKeys) {
