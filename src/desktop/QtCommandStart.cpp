@@ -23,8 +23,11 @@ bool shellKnowsCommandFiles() {
     return QSysInfo::kernelType() == u"winnt"_s;
 }
 
+// In a console window of its own. Behind "call" the path keeps its quotes: cmd.exe takes them off a
+// command that begins with them when it holds parentheses, as in "Program Files (x86)".
 void runInShell(const QString& command_file) {
-    QProcess::startDetached(u"cmd.exe"_s, {u"/c"_s, QDir::toNativeSeparators(command_file)},
+    QProcess::startDetached(u"cmd.exe"_s,
+                            {u"/c"_s, u"call"_s, QDir::toNativeSeparators(command_file)},
                             QFileInfo(command_file).absolutePath());
 }
 
