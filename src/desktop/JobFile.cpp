@@ -1,7 +1,9 @@
 #include "desktop/JobFile.h"
 
 #include "desktop/PrintFailure.h"
+#include "desktop/WholeFile.h"
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryFile>
@@ -14,20 +16,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QFile::Permissions readable_by_all =
-    QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther;
-
 Failure notWritten(const QString& folder) {
     return printFailure(u"Não foi possível gravar as etiquetas na pasta \"%1\"."_s.arg(folder));
 }
 
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 // The writer of PDF files does not tell of a full disk. What it writes last shows that all is
 // there.
-bool isComplete(const QString& path) {
-    constexpr qint64 tail = 16; // bytes
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - tail)) &&
-           file.readAll().trimmed().endsWith("%%EOF");
+bool isComplete(const QByteArray& pdf) {
+    constexpr qsizetype tail = 16; // bytes
+    return pdf.last(std::min(tail, pdf.size())).trimmed().endsWith("%%EOF");
 }
 
 QString freeName(const QDir& folder, const QDateTime& time) {
@@ -51,12 +53,11 @@ QString writeJobFile(const QString& folder, const QDateTime& time,
     const QString draft_path = draft.fileName();
     draft.close();
     write(draft_path);
+    const QByteArray pdf = bytesOf(draft_path);
     QString path = freeName(place, time);
-    if (!isComplete(draft_path) || !QFile::setPermissions(draft_path, readable_by_all) ||
-        !QFile::rename(draft_path, path)) {
+    if (!isComplete(pdf) || !writeWhole(path, pdf)) {
         throw notWritten(folder);
     }
-    draft.setAutoRemove(false);
     return path;
 }
 

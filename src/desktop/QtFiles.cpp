@@ -2,11 +2,11 @@
 
 #include "base/Failure.h"
 #include "desktop/QtText.h"
+#include "desktop/WholeFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <iterator>
@@ -72,12 +72,7 @@ std::string QtFiles::read(TextView path) const {
 }
 
 void QtFiles::replace(TextView path, std::string_view bytes) {
-    // Writes beside the file, forces the bytes to the disk and renames. The flush is what tells of
-    // a full disk: the commit would not, and put a cut-off file in the old one's place.
-    QSaveFile file(toQString(path));
-    const auto size = static_cast<qint64>(bytes.size());
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), size) != size ||
-        !file.flush() || !file.commit()) {
+    if (!writeWhole(toQString(path), bytes)) {
         throw fileFailure(u"gravar o arquivo", path);
     }
 }
