@@ -93,8 +93,11 @@ void EventBridge::run(const std::function<void()>& handler) {
     if (stopped_) {
         return;
     }
+    // An event within an event, at a message box say, finds the fields ahead of the windows.
+    if (!running_) {
+        pullAll();
+    }
     const QScopedValueRollback<bool> guard(running_, true);
-    pullAll();
     try {
         handler();
     } catch (const Failure& failure) {

@@ -7,7 +7,7 @@ struct FrmPadrao;
 /// Fills the Workbench with the box item chosen in `cmb_referencia`: the item fields from its
 /// first line in `List1`, one size slot from each of its lines, the totals, the photograph. Where
 /// no line matches, the item fields keep the values of the item before. A fifteenth size is
-/// reported and left out. Fails where a quantity does not convert.
+/// reported and left out. Fails where a quantity does not convert or leaves 16 bits.
 void carrega_gradeFc(FrmPadrao& form);
 
 } // namespace etiquetas

@@ -49,13 +49,15 @@ struct ItemKeyFields {
 /// Nothing when the line is too short for it.
 [[nodiscard]] std::optional<Text> itemKey(const OrderLine& line, const ItemKeyFields& fields);
 
-/// The three parts of a chosen item key, trimmed. A typed text may lack parts; they are empty then.
+/// The three parts of a chosen item key, trimmed. A typed text may lack parts; they are empty then,
+/// and fit blank fields.
 struct ItemKey {
     explicit ItemKey(TextView key);
 
-    TextView code;
-    TextView description;
-    TextView colour;
+    // Of its own: a message box of a loader lets other events at the list that the key stands in.
+    Text code;
+    Text description;
+    Text colour;
 };
 
 /// Characters of the master code that are the product code.
