@@ -197,10 +197,11 @@ void fillBlankFields(MargensDialog& dialog, std::span<const Entry> entries) {
     }
 }
 
-// A copy of the item code, which nothing reads.
 void copyCode(const FrmPadrao& form, MargensDialog& dialog) {
     const Text& codigo = form.txtcodigo.text;
-    dialog.txtcodigo.text = isBlank(codigo) ? u"50100779" : codigo;
+    if (dialog.txtcodigo) {
+        dialog.txtcodigo->text = isBlank(codigo) ? u"50100779" : codigo;
+    }
 }
 
 // Tells the operator where a margin is missing, and leads him to the first one.

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 namespace etiquetas {
 
@@ -41,7 +42,7 @@ struct MargensDialog {
     TextField txtmargem1{.text = u"Text1", .caption = u"Coluna 1 (mm)"};
     TextField txtmargem2{.text = u"Text1", .caption = u"Coluna 2 (mm)"};
     TextField txtmargemsuperior;
-    TextField txtcodigo{.text = u"Text1", .visible = false};
+    std::optional<TextField> txtcodigo; // hidden; nothing reads it
     Command cmd_gravar{u"&Gravar Margens"};
     Command cmd_teste{u"&Impressão de Teste"};
     Command cmd_exit{u"&Sair"};
@@ -56,7 +57,8 @@ struct MargensDialog {
             .Label2 = {u"3"},
             .Label3 = {u"45"},
             .Label6 = {u"Margem Superior"},
-            .txtmargemsuperior = {.text = u"3"}};
+            .txtmargemsuperior = {.text = u"3"},
+            .txtcodigo = TextField{.text = u"Text1", .visible = false}};
 }
 
 /// Margins of the box front label, as designed.

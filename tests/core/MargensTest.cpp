@@ -105,6 +105,13 @@ TEST_F(MargensTest, DialogOfTheKindLoadsAndStores) {
     form.cmbtipo.type(Text(tipo::acessorio));
     cmd_calibra_click(form);
     EXPECT_TRUE(oculta.open && !oculta.to_front && !caixa.open && !pack.open);
+    EXPECT_EQ(oculta.txtcodigo->text, u"3104527");
+    form.txtcodigo.text = u" ";
+    margens_load(form, oculta);
+    EXPECT_EQ(oculta.txtcodigo->text, u"50100779");
+    oculta.open = caixa.open = pack.open = true;
+    FrmPadrao_unload(form);
+    EXPECT_FALSE(oculta.open || caixa.open || pack.open);
 }
 
 TEST_F(MargensTest, TestPrintsTheItemWithTheMarginsOfTheFields) {
@@ -131,6 +138,10 @@ TEST_F(MargensTest, TestPrintsTheItemWithTheMarginsOfTheFields) {
     }
     EXPECT_EQ((Margins{form.PackX, form.Mx4045, form.Margem_oculta2}), (Margins{3.5F, 5, 5}));
     EXPECT_EQ(ini(), "[MargemOcultaZebra]\r\nMargem_oculta1=7\r\n");
+    form.cmbtipo.choose(0);
+    form.txtpromocao.text = u" A "; // its blanks go before its length is looked at
+    tested(caixa, u"3,5|46|5");
+    EXPECT_EQ(machine.logged({"print"}).at(1), "print Calibri 16 bold at 33.5 32 mm A");
     form.cmbtipo.choose(3);
     cmd_printacessorio_click(form);
     EXPECT_EQ(form.Margem_oculta1, 7);
@@ -160,6 +171,7 @@ TEST_F(MargensTest, ChecksBeforeATest) {
     EXPECT_EQ(tested(caixa, u"1|1|1"),
               "message none ok [] Selecione o Item que deseja Imprimir; printer Etiquetas; paper "
               "256; width 9000; height 2660; end; printer Papel; ");
+    EXPECT_EQ(form.txtpreco.text, u"");
     form.LogoLumiraOk = false;
     EXPECT_EQ(tested(caixa, u"1|1|1"),
               "message none ok [] O Arquivo do Logotipo não foi localizado; ");

@@ -123,6 +123,8 @@ TEST_F(DialogTest, leadsToTheFirstBlankMarginAndDropsWhatIsNoNumber) {
     worker.click(u"cmd_teste"_s);
     EXPECT_EQ(worker.takeBoxes().at(0).text, u"Informe a Margem..."_s);
     EXPECT_EQ(worker.focused(), u"txtmargemsuperior"_s);
+    worker.click(u"cmd_exit"_s);
+    EXPECT_FALSE(isOpen(calibrations.front().dialog));
 }
 
 TEST_F(DialogTest, keepsTheOrderFolderAndShowsStoredParametersOnce) {
