@@ -11,6 +11,7 @@ namespace etiquetas {
     return {static_cast<std::int32_t>(number), Text(source), Text(description)};
 }
 
+/// What is said of a character that a symbology lacks.
 inline constexpr TextView invalid_character = u"An Invalid Character Found in Bar Text";
 
 } // namespace etiquetas

@@ -17,6 +17,8 @@ namespace etiquetas {
 
 // A page as plain values, all measures in millimetres from its top-left corner.
 
+inline constexpr double millimetres_per_inch = 25.4;
+
 /// A text in black. One pixel of the font is `scale` millimetres.
 struct TextMark {
     QPointF baseline;

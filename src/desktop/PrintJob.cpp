@@ -11,8 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double millimetres_per_inch = 25.4;
-
 // A printer that the machine lacks would silently become a PDF printer without a file.
 void requirePrinter(const PrintTarget& target) {
     if (!target.built_in && QPrinterInfo::printerInfo(target.name).isNull()) {
@@ -20,7 +18,8 @@ void requirePrinter(const PrintTarget& target) {
     }
 }
 
-// The built-in device has the stock of the one label that takes the printer's own page.
+// The built-in device has the stock of the one label that takes the printer's own page. In whole
+// points, as pages are, that is 283 by 113: the label has nothing in the 0.2 mm beyond.
 QPageSize builtInPage() {
     return QPageSize(QSizeF(100, 40), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
 }

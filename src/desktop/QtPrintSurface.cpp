@@ -15,7 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double millimetres_per_inch = 25.4;
 constexpr double millimetres_per_point = millimetres_per_inch / 72;
 
 Failure invalidCall(const char16_t* description) {

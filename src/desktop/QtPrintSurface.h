@@ -19,8 +19,9 @@
 
 namespace etiquetas {
 
-/// Draws labels on the machine's printers and on the built-in device, with the same code for all:
-/// page, positions and widths are exact to a hundredth of a millimetre at every resolution.
+/// Draws labels on the machine's printers and on the built-in device, with the same code for all.
+/// Positions and widths stand in millimetres, and hold at every resolution; pages have whole
+/// points.
 class QtPrintSurface final : public PrintSurface {
   public:
     using Clock = std::function<QDateTime()>;

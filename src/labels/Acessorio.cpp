@@ -88,7 +88,6 @@ struct AccessoryLabel {
 
 // Breaks behind the last separator of what is too wide. Without one there is no line at all.
 std::array<TextView, 2> brokenAt(std::size_t overflow, TextView text) {
-    constexpr TextView separators = u" -/.";
     const std::size_t separator = left(text, overflow).find_last_of(separators);
     if (separator == TextView::npos) {
         return {};

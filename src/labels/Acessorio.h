@@ -9,8 +9,9 @@ namespace etiquetas {
 struct FrmPadrao;
 
 /// Draws `quantidade` accessory labels, 40 by 20 mm, two across, from column `coluna_etiqueta` on.
-/// A description too wide for one line is broken behind the last separator that fits; one without a
-/// separator is not printed. A price of "0,00" is none.
+/// A description too wide for one line is broken behind the last separator up to the first
+/// character that is too much; one without a separator there is not printed. A price of "0,00" is
+/// none.
 ///
 /// Each call moves `Margem_oculta1` by 4.8 and `Margem_oculta11` by 1.5 mm to the left, so that
 /// both are to be read anew before each call. `flag` is the banner ("L" or other). `barra` has 12

@@ -81,9 +81,7 @@ void print(PrintSurface& surface, const Item& item, const Point& origin, TextVie
 
 void drawPhotograph(FrmPadrao& form, const Point& origin) {
     if (form.tem_imagem) {
-        const Box box = at(origin, item_photograph);
-        form.platform.surface.PaintPicture(form.pctimage.picture, box.corner.x, box.corner.y,
-                                           box.width, box.height);
+        stamp(form.platform.surface, form.pctimage.picture, at(origin, item_photograph));
     }
 }
 

@@ -6,7 +6,6 @@
 #include "labels/PriceBlock.h"
 #include "workbench/FrmPadrao.h"
 
-#include <algorithm>
 #include <array>
 
 namespace etiquetas {

@@ -3,6 +3,8 @@
 #include "base/Text.h"
 #include "platform/PrintSurface.h"
 
+#include <optional>
+
 namespace etiquetas {
 
 // What label layouts are made of, and how their pieces are drawn. Millimetres, in single precision.
@@ -14,6 +16,9 @@ inline constexpr TextView franklin_medium = u"Franklin Gothic Medium";
 inline constexpr TextView franklin_semilight = u"Franklin Gothic Semilight";
 inline constexpr TextView malgun_semilight = u"Malgun Gothic Semilight";
 } // namespace face
+
+/// Behind these characters a description may be broken.
+inline constexpr TextView separators = u" -/.";
 
 /// Face, weight and size in points of a text.
 struct Font {
@@ -88,6 +93,14 @@ inline void printItem(PrintSurface& surface, const TextItem& item, const Point& 
                       TextView text) {
     useFont(surface, item.font);
     printAt(surface, at(origin, item.offset), text);
+}
+
+/// Stamps a picture on a box of the surface; `source_width` pixels of its width, from the left,
+/// where that is given.
+inline void stamp(PrintSurface& surface, const Picture& picture, const Box& box,
+                  std::optional<float> source_width = {}) {
+    surface.PaintPicture(picture, box.corner.x, box.corner.y, box.width, box.height,
+                         SourceArea{.width = source_width});
 }
 
 /// Draws a ruled line of a layout.

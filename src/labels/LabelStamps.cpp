@@ -32,17 +32,14 @@ void desenha_barras(FrmPadrao& form, TextView barra) {
 }
 
 void carimba_barras(FrmPadrao& form, const Box& box) {
-    form.platform.surface.PaintPicture(form.Picture1.Picture(), box.corner.x, box.corner.y,
-                                       box.width, box.height);
+    stamp(form.platform.surface, form.Picture1.Picture(), box);
 }
 
 void carimba_logo(FrmPadrao& form, TextView flag, const LogoLayout& layout, const Point& origin) {
     const bool lumira = flag == u"L";
     const LogoItem& logo = lumira ? layout.lumira : layout.brisako;
     const Picture& picture = (lumira ? form.pctlogo2 : form.pctlogo1).picture;
-    const Box box = at(origin, logo.box);
-    form.platform.surface.PaintPicture(picture, box.corner.x, box.corner.y, box.width, box.height,
-                                       SourceArea{.width = logo.source_width});
+    stamp(form.platform.surface, picture, at(origin, logo.box), logo.source_width);
 }
 
 } // namespace etiquetas

@@ -6,7 +6,6 @@
 #include "labels/LabelStrip.h"
 #include "workbench/FrmPadrao.h"
 
-#include <algorithm>
 #include <array>
 
 namespace etiquetas {
@@ -37,7 +36,6 @@ constexpr std::array<TextItem, 3> items_lines{{
 using DescriptionLines = std::array<TextView, 3>;
 
 bool isSeparator(char16_t character) {
-    constexpr TextView separators = u" -/.";
     return separators.find(character) != TextView::npos;
 }
 
