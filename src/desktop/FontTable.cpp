@@ -17,18 +17,19 @@ namespace {
 struct StandIn {
     TextView face;
     TextView family;
+    TextView bold_family; // a family of one weight has no bold letters of its own
     bool metric_twin = false;
     double scale = 1.0;
 };
 
-// In order of preference within each face. The digits of Open Sans take 0.571 em, those of the
-// general family 0.556 em: scaled, a text is as wide with either of them.
+// In order of preference within each face. The digits of Open Sans take 0.571 em in every weight,
+// those of the general family 0.556 em: scaled, a text is as wide with either of them.
 constexpr std::array stand_ins{
-    StandIn{u"Calibri", u"Carlito", true},
-    StandIn{u"Franklin Gothic Medium", u"Libre Franklin Medium"},
-    StandIn{u"Franklin Gothic Semilight", u"Libre Franklin Light"},
-    StandIn{u"Malgun Gothic Semilight", u"NanumBarunGothic Light"},
-    StandIn{u"Malgun Gothic Semilight", u"Open Sans Light", false, 0.974},
+    StandIn{u"Calibri", u"Carlito", u"Carlito", true},
+    StandIn{u"Franklin Gothic Medium", u"Libre Franklin Medium", u"Libre Franklin"},
+    StandIn{u"Franklin Gothic Semilight", u"Libre Franklin Light", u"Libre Franklin"},
+    StandIn{u"Malgun Gothic Semilight", u"NanumBarunGothic Light", u"NanumBarunGothic"},
+    StandIn{u"Malgun Gothic Semilight", u"Open Sans Light", u"Open Sans", false, 0.974},
 };
 
 constexpr TextView general_family = u"Liberation Sans";
@@ -37,10 +38,11 @@ bool contains(const QStringList& families, TextView family) {
     return families.contains(toQString(family), Qt::CaseInsensitive);
 }
 
-std::optional<FontChoice> standInFor(TextView face, const QStringList& families) {
+std::optional<FontChoice> standInFor(TextView face, bool bold, const QStringList& families) {
     for (const StandIn& other : stand_ins) {
-        if (equalIgnoringCase(other.face, face) && contains(families, other.family)) {
-            return FontChoice{toQString(other.family), other.scale};
+        const TextView family = bold ? other.bold_family : other.family;
+        if (equalIgnoringCase(other.face, face) && contains(families, family)) {
+            return FontChoice{toQString(family), other.scale};
         }
     }
     return std::nullopt;
@@ -57,11 +59,11 @@ QStringList installedFamilies() {
     return families;
 }
 
-FontChoice chooseFont(TextView face, const QStringList& families) {
+FontChoice chooseFont(TextView face, bool bold, const QStringList& families) {
     if (contains(families, face)) {
         return {toQString(face)};
     }
-    if (const auto stand_in = standInFor(face, families)) {
+    if (const auto stand_in = standInFor(face, bold, families)) {
         return *stand_in;
     }
     return {contains(families, general_family) ? toQString(general_family) : QFont().family()};

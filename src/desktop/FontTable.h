@@ -16,9 +16,9 @@ struct FontChoice {
 /// Families that the machine has, without the foundry that a name may be followed by.
 [[nodiscard]] QStringList installedFamilies();
 
-/// The family for a face out of those that are there: the face itself, else the first of its
-/// stand-ins, else the general one, else the toolkit's own choice.
-[[nodiscard]] FontChoice chooseFont(TextView face, const QStringList& families);
+/// The family for a face, bold or not, out of those that are there: the face itself, else the first
+/// of its stand-ins, else the general one, else the toolkit's own choice.
+[[nodiscard]] FontChoice chooseFont(TextView face, bool bold, const QStringList& families);
 
 /// Faces that count as present: all families, and each face whose stand-in has the same metrics
 /// glyph by glyph. A face that is merely drawn with a similar one is not among them.

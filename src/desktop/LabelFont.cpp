@@ -65,7 +65,7 @@ const LabelFont& LabelFonts::get(TextView face, bool bold) {
     if (const auto known = fonts_.find(key); known != fonts_.end()) {
         return known->second;
     }
-    const FontChoice choice = chooseFont(face, families_);
+    const FontChoice choice = chooseFont(face, bold, families_);
     return fonts_.emplace(key, LabelFont(choice.family, bold, choice.scale)).first->second;
 }
 

@@ -17,15 +17,20 @@ static const QStringList stand_ins{u"Carlito"_s, u"Libre Franklin Light"_s,
                                    u"Liberation Sans"_s};
 
 TEST(FontTable, drawsAFaceWithTheFirstFamilyThatIsThere) {
-    const QString malgun = u"NanumBarunGothic Light"_s;
-    EXPECT_EQ(chooseFont(u"calibri", stand_ins).family, u"Carlito"_s);
-    EXPECT_EQ(chooseFont(u"Calibri", {u"Carlito"_s, u"Calibri"_s}).family, u"Calibri"_s);
-    EXPECT_EQ(chooseFont(u"Calibri", {malgun}).family, QFont().family());
-    EXPECT_EQ(chooseFont(u"Franklin Gothic Medium", stand_ins).family, stand_ins[2]);
-    EXPECT_EQ(chooseFont(u"Franklin Gothic Semilight", stand_ins).family, stand_ins[1]);
-    EXPECT_EQ(chooseFont(u"Malgun Gothic Semilight", stand_ins).family, u"Open Sans Light"_s);
-    EXPECT_EQ(chooseFont(u"Malgun Gothic Semilight", {stand_ins[3], malgun}).family, malgun);
-    EXPECT_EQ(chooseFont(u"No Such Face", stand_ins).family, u"Liberation Sans"_s);
+    const QString malgun = u"NanumBarunGothic Light"_s, open = u"Open Sans"_s;
+    using Case = std::tuple<TextView, bool, QStringList, QString>;
+    for (const auto& [face, bold, families, family] :
+         {Case{u"calibri", true, stand_ins, u"Carlito"_s},
+          Case{u"Calibri", false, {u"Carlito"_s, u"Calibri"_s}, u"Calibri"_s},
+          Case{u"Calibri", false, {malgun}, QFont().family()},
+          Case{u"Franklin Gothic Medium", false, stand_ins, stand_ins[2]},
+          Case{u"Franklin Gothic Semilight", false, stand_ins, stand_ins[1]},
+          Case{u"Malgun Gothic Semilight", false, stand_ins, u"Open Sans Light"_s},
+          Case{u"Malgun Gothic Semilight", false, {stand_ins[3], malgun}, malgun},
+          Case{u"Malgun Gothic Semilight", true, {stand_ins[3], open, malgun}, open},
+          Case{u"No Such Face", false, stand_ins, u"Liberation Sans"_s}}) {
+        EXPECT_EQ(chooseFont(face, bold, families).family, family);
+    }
 }
 
 TEST(FontTable, offersTheFamiliesAndTheFacesThatATwinStandsInFor) {

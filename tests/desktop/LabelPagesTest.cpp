@@ -29,7 +29,7 @@ static void PrintTo(const Job& job, std::ostream* out) {
 constexpr double columns_40x20 = 45 - 3;
 
 // Edges that are reckoned with text widths come from the advances of the fonts: "99" in Carlito
-// bold 9 is 3.218 mm wide, "139," in 30 18.821, "R$" in Open Sans Light 6.818 2.802, "À VISTA" in
+// bold 9 is 3.218 mm wide, "139," in 30 18.821, "R$" in Open Sans bold 6.818 2.961, "À VISTA" in
 // Liberation Sans 6 8.116 mm. On the carton "12" in Liberation Sans bold 25 is 9.81 mm wide. The
 // first row of the size run is 68.27 mm in 24, and so shrinks to 21: 59.73 mm, and 35.01 for the
 // second. The description shrinks to 13.1.
@@ -41,7 +41,7 @@ static const std::vector<Job> jobs{
      {u"2310452701003"_s, u"2310452701003"_s}},
     {"box_front_with_price", 0, "1400050831", {450, 133}, 7, 40,
      u"c8 17 32.4 32/26; c16 30 30 A1; f12 30 2.7 527; c30 17.361 9.7 139,; c9 35.982 12 99; "
-     "m7 13.309 16.4 R$; f6 4.543 17.4 À VISTA; f7 35 21.7 BK; f7 2.3 21 3104527001; "
+     "m7 13.15 16.4 R$; f6 4.384 17.4 À VISTA; f7 35 21.7 BK; f7 2.3 21 3104527001; "
      "f7 2.3 24 TÊNIS CASUAL FEMININO C; f7 2.3 27 ANO BAIXO; f7 2.3 30 CAFÉ; !c32 1.6 34 33; "
      "c7 15.8 42.5 231045; !c7 27.2 42.5 2701003"_s,
      {u"2310452701003"_s, u"2310452701010"_s}},
@@ -50,7 +50,7 @@ static const std::vector<Job> jobs{
      "!c32 1.6 34 35"_s,
      {u"2310901701004"_s, u"2310901701011"_s}},
     {"accessory_of_two_lines", 2, "1400050831", {450, 60}, 6, columns_40x20 - 1.5 + 4.8,
-     u"c24 25.456 1.9 159,; c12 39.412 3.3 90; m7 22.604 6.9 R$; f6 13.838 7.55 À VISTA; "
+     u"c24 25.456 1.9 159,; c12 39.412 3.3 90; m7 22.445 6.9 R$; f6 13.679 7.55 À VISTA; "
      "f5 5.2 10.2 BOLSA TRANSVERSAL ALÇA DUPLA; f5 5.2 12 MATELASSÊ CAFÉ; f5 5.2 13.8 5201104; "
      "f5 16.9 13.8 BK; f5 21.4 13.8 32/26; f5 7.7 19.1 045201; f5 19.4 19.1 104100; "
      "f14 35.7 12.1 A1; f8 33.6 17.5 104"_s,
