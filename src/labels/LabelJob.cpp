@@ -21,10 +21,6 @@ bool SelecionaImpressora(FrmPadrao& form, TextView name) {
     return false;
 }
 
-void avisa(FrmPadrao& form, TextView text, Symbol symbol) {
-    skip([&] { form.platform.messages.show({.text = Text(text), .symbol = symbol}); });
-}
-
 void seleciona_escolhida(FrmPadrao& form) {
     skip([&] { SelecionaImpressora(form, form.CMBPRINTER.text); });
 }

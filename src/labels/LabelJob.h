@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/Text.h"
-#include "platform/MessageBoxes.h"
 #include "workbench/FrmPadrao.h"
 
 #include <array>
@@ -65,9 +64,6 @@ inline constexpr TextView sem_item = u"Selecione o Item que deseja Imprimir";
 bool SelecionaImpressora(FrmPadrao& form, TextView name);
 
 // The routines below run in skip mode: a step that fails is passed over.
-
-/// Tells the operator something.
-void avisa(FrmPadrao& form, TextView text, Symbol symbol = Symbol::none);
 
 /// Selects the printer that the operator chose; where it is gone the current one stays.
 void seleciona_escolhida(FrmPadrao& form);

@@ -10,6 +10,7 @@
 #include "labels/Oculta.h"
 #include "orders/Complemento.h"
 #include "platform/Focus.h"
+#include "platform/MessageBoxes.h"
 #include "support/Module1.h"
 #include "workbench/FrmPadrao.h"
 
@@ -131,11 +132,11 @@ bool beginBoxFronts(FrmPadrao& form) {
         return false;
     }
     if (!tem_logos(form)) {
-        avisa(form, aviso::sem_logotipo);
+        avisa(form.platform.messages, aviso::sem_logotipo);
         return false;
     }
     if (isBlank(form.txtdescricao.text)) {
-        avisa(form, aviso::sem_item); // told only: the test goes on
+        avisa(form.platform.messages, aviso::sem_item); // told only: the test goes on
     }
     return true;
 }
@@ -212,7 +213,7 @@ bool marginsAreThere(FrmPadrao& form, const MargensDialog& dialog, std::span<con
     if (blank == entries.end()) {
         return true;
     }
-    avisa(form, u"Informe a Margem...");
+    avisa(form.platform.messages, u"Informe a Margem...");
     skip([&] { form.platform.focus.moveTo(dialog.*blank->field); });
     return false;
 }

@@ -10,7 +10,8 @@
 
 namespace etiquetas {
 
-/// The file system. Paths are texts in the machine's own form.
+/// The file system. Paths are texts in the machine's own form. Only what changes or reads a file
+/// may fail; the questions never do.
 class Files : public Interface {
   public:
     /// The folder that holds the program, without a separator at its end unless it is a root.
@@ -24,6 +25,7 @@ class Files : public Interface {
     /// Names of the files in a folder, in any order; none where it can't be read.
     [[nodiscard]] virtual std::vector<Text> filesIn(TextView folder) const = 0;
 
+    /// Makes a folder, and deletes a file; they fail where that can't be done.
     virtual void makeFolder(TextView path) = 0;
     virtual void deleteFile(TextView path) = 0;
 

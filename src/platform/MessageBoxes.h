@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Failure.h"
 #include "base/Text.h"
 #include "platform/Interface.h"
 
@@ -25,5 +26,10 @@ class MessageBoxes : public Interface {
     /// Shows the message. A box that is closed without an answer counts as OK or No.
     virtual Answer show(const Message& message) = 0;
 };
+
+/// Tells the operator something, in a box with one button. A box that fails is passed over.
+inline void avisa(MessageBoxes& messages, TextView text, Symbol symbol = Symbol::none) {
+    skip([&] { messages.show({.text = Text(text), .symbol = symbol}); });
+}
 
 } // namespace etiquetas

@@ -2,7 +2,7 @@
 
 #include "base/Numbers.h"
 #include "config/Settings.h"
-#include "labels/LabelJob.h"
+#include "platform/MessageBoxes.h"
 #include "support/Mod_Browse.h"
 #include "workbench/FrmPadrao.h"
 
@@ -135,7 +135,7 @@ void storeFolder(FrmPadrao& form) {
     if (files.folderExists(folder)) {
         form.lblpath.caption = folder;
     } else {
-        avisa(form, u"O Local Padrão de busca do Arquivo é Inválido...");
+        avisa(form.platform.messages, u"O Local Padrão de busca do Arquivo é Inválido...");
         folder.clear();
         form.lblpath.caption = files.programFolder();
     }
@@ -205,7 +205,7 @@ void CMD_GETPATH_click(FrmPadrao& form) {
     const Text folder =
         BrowseFolder(form.platform.folders, u"Selecione o Local Padrão para Busca dos Arquivos");
     if (!form.platform.files.folderExists(folder)) {
-        avisa(form, u"O Local Selecionado é Inválido...");
+        avisa(form.platform.messages, u"O Local Selecionado é Inválido...");
         return;
     }
     TextField& field = form.FrmParametroImpressora.TXTPATH;

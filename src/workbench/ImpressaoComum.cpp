@@ -23,7 +23,7 @@ Course testa_logos(FrmPadrao& form) {
     if (tem_logos(form)) {
         return Course::goes_on;
     }
-    avisa(form, aviso::sem_logotipo, Symbol::stop);
+    avisa(form.platform.messages, aviso::sem_logotipo, Symbol::stop);
     return Course::ends;
 }
 
@@ -31,7 +31,7 @@ Course testa_codigo(FrmPadrao& form, const TextField& code) {
     if (!isBlank(code.text)) {
         return Course::goes_on;
     }
-    avisa(form, u"Código Inválido");
+    avisa(form.platform.messages, u"Código Inválido");
     return Course::ends;
 }
 
@@ -39,7 +39,7 @@ Course testa_descricao(FrmPadrao& form, const TextField& description) {
     if (!isBlank(description.text)) {
         return Course::goes_on;
     }
-    avisa(form, aviso::sem_item);
+    avisa(form.platform.messages, aviso::sem_item);
     return Course::ends;
 }
 
@@ -57,7 +57,7 @@ Course testa_codigos_do_tamanho(FrmPadrao& form) {
     if (!isBlank(form.lblmaster.caption) && !isBlank(form.lblbarra.caption)) {
         return Course::goes_on;
     }
-    avisa(form, u"Erro - 1012 - Código Master - Contate Suporte ");
+    avisa(form.platform.messages, u"Erro - 1012 - Código Master - Contate Suporte ");
     return Course::ends;
 }
 

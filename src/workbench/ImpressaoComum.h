@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "labels/LabelJob.h"
 #include "orders/Complemento.h"
+#include "platform/MessageBoxes.h"
 #include "workbench/FrmPadrao.h"
 
 #include <cstdint>

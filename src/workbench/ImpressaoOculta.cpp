@@ -11,7 +11,8 @@ Course testa_quantidade(FrmPadrao& form) {
     if (!isBlank(form.TXTOCULTAS.text)) {
         return Course::goes_on;
     }
-    avisa(form, u"Quantidade de Etiquetas Ocultas - Inválida", Symbol::exclamation);
+    avisa(form.platform.messages, u"Quantidade de Etiquetas Ocultas - Inválida",
+          Symbol::exclamation);
     return Course::ends;
 }
 

@@ -82,11 +82,8 @@ void carrega_logos(FrmPadrao& form) {
         }
     }
     if (!missing.empty()) {
-        skip([&] {
-            form.platform.messages.show(
-                {.text = u"O(s) arquivo(s): " + missing + u"\nNão foi(ram) localizado(s)!",
-                 .symbol = Symbol::stop});
-        });
+        avisa(form.platform.messages,
+              u"O(s) arquivo(s): " + missing + u"\nNão foi(ram) localizado(s)!", Symbol::stop);
     }
 }
 
