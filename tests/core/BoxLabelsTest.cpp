@@ -35,7 +35,7 @@ class BoxLabelsTest : public testing::Test, protected Workbench {
                                 label.code, label.size, label.price, label.quantity,
                                 label.promotion, u" S/X ", u" FAIXA");
             } else if (kind == Kind::accessory) {
-                Imprime_Acessorio_40_20_2(form, label.flag, label.description, u"XYZ", u"3104527",
+                Imprime_Acessorio_40_20_2(form, label.flag, label.description, u"XYZ", u" 3104527",
                                           label.code, u"9", label.price, label.quantity, u" FAIXA ",
                                           u" S/X ", label.promotion);
             } else {
@@ -55,7 +55,7 @@ class BoxLabelsTest : public testing::Test, protected Workbench {
 
     std::string failure;
     Text description;
-    const Text a32 = Text(32, u'A');
+    const Text a20 = Text(20, u'A'), a32 = Text(32, u'A');
 };
 
 TEST_F(BoxLabelsTest, FrontLayoutInBothColumns) {
@@ -95,10 +95,12 @@ TEST_F(BoxLabelsTest, FrontTextsByTheirLengths) {
 
 TEST_F(BoxLabelsTest, AccessoryLayoutInBothColumns) {
     EXPECT_EQ(
-        drawn(Kind::accessory, {.description = u"BOLSA AZUL", .promotion = u" P1"}),
+        drawn(Kind::accessory, {.description = a32 + a20 + u" ", .promotion = u" P1"}),
         listOf("stamp 3 4 11 2.5 28 6 crop 300; C24+ 30.957 0.9 129,; C12+ 43.571 2.3 90; M7+ "
-               "28.907 5.9 R$; ~6 22.257 6.55 À VISTA; ~5+ 9 9.2 BOLSA AZUL; pixels; mm; stamp 141 "
-               "27 6.6 14 35 8; ~5+ 9 11.3 3104527; ~5+ 20.7 11.4 FAIXA; ~5+ 25.2 11.3 S/X; ~5+ "
+               "28.907 5.9 R$; ~6 22.257 6.55 À VISTA; ~5+ 9 9.2 " +
+               utf8(a32 + a20) +
+               "; pixels; mm; stamp 141 "
+               "27 6.6 14 35 8; ~5+ 9 11.3  3104527; ~5+ 20.7 11.4 FAIXA; ~5+ 25.2 11.3 S/X; ~5+ "
                "11.5 17.6 204455; ~5+ 23.2 17.8 6677888; ~14+ 39.5 11.1  P1; ~8+ 37.4 16.5 527"));
     EXPECT_EQ(machine.logged({"measure"})[0], "measure Franklin Gothic Medium 7");
     EXPECT_FLOAT_EQ(form.Margem_oculta1, 2); // stays moved
@@ -107,7 +109,7 @@ TEST_F(BoxLabelsTest, AccessoryLayoutInBothColumns) {
         drawn(Kind::accessory, {a32 + u" " + a32, u"B", u"", u"0,00 ", u"P1", u"2044556677888", 2}),
         listOf("stamp 1 2 52.7 1.6 22 5 crop 300; ~5+ 52 9.2 " + utf8(a32) + "; ~5+ 52 11 " +
                utf8(a32) +
-               "; pixels; mm; stamp 141 27 49.6 14.9 35 8; ~5+ 52 12.8 3104527; ~5+ 63.7 12.8 "
+               "; pixels; mm; stamp 141 27 49.6 14.9 35 8; ~5+ 52 12.8  3104527; ~5+ 63.7 12.8 "
                "FAIXA; ~5+ 68.2 12.8 S/X; ~5+ 54.5 18.1 204455; ~5+ 66.2 18.1 6677888; ~14+ 82.5 "
                "10.1 P1; ~12+ 79 15 527; page"));
 }
@@ -138,7 +140,8 @@ TEST_F(BoxLabelsTest, DescriptionBreaks) {
     using Case = std::tuple<Kind, Text, Text, Text>;
     for (const auto& [kind, text, line1, line2] :
          {Case{Kind::front, a32, a32, u"AZUL"}, Case{Kind::front, a32 + u" ", a32, u"AZUL"},
-          Case{Kind::front, a32 + a32, a32, a32}, Case{Kind::accessory, a51, a51, u""},
+          Case{Kind::front, a32 + u" 7", a32, u" 7"}, Case{Kind::front, a32 + a32, a32, a32},
+          Case{Kind::accessory, a51, a51, u""},
           Case{Kind::accessory, a51 + u"A", a51 + u"A", u""}, // just as wide as the limit
           Case{Kind::accessory, a51 + u"AA-B", u"", u""},
           Case{Kind::accessory, a51 + u"A-B", a51 + u"A-", u"B"},

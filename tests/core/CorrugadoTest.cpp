@@ -78,6 +78,8 @@ TEST_F(CorrugadoTest, WideTextsShrinkInStepsFromWhatTheSurfaceHolds) {
                   (Log{starts[0] + std::string(length, 'A'), starts[1] + std::string(sizes, '6'),
                        starts[2] + std::string(20, '4')}));
     }
+    // At a quarter of a point there is no smaller size.
+    EXPECT_TRUE(drawn(u"1", u"L", Text(9999, u'A')).at(20).starts_with("~0.25+ 6.2 78.4 AA"));
 }
 
 TEST_F(CorrugadoTest, VolumeNumbers) {

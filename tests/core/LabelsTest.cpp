@@ -136,6 +136,10 @@ TEST_F(OcultaTest, DescriptionBreaks) {
         const Log all = drawn(1, u"", u"L", replaceAll(marked, u"|", u""));
         EXPECT_EQ(Log(all.begin() + 7, all.end()), lines);
     }
+    machine.printers.ScaleMode(ScaleMode::pixels); // as a refused barcode leaves the surface
+    form.coluna_etiqueta = 1;
+    const Log all = drawn(1, u"", u"L", u"7 AB");
+    EXPECT_EQ(Log(all.end() - 2, all.end()), listOf("~6 5.8 5.4 7 AB; ~6 5.8 7.7 AZUL"));
 }
 
 TEST_F(OcultaTest, HeaderStripOfEachType) {

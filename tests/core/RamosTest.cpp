@@ -17,10 +17,12 @@ class RamosTest : public testing::Test, protected LoadedWorkbench {
         takeLogos();
         auto& files = machine.files.bytes;
         files[u"/programa/77 FRENTE.TXT"] =
-            fileOf({u"LUMIRA", lineOf({.quantity = u"1"}), lineOf({.size = u"35", .barcode = u" "}),
-                    lineOf({.quantity = u"1", .size = u"36"}), lineOf({.colour = u"RUBRO"})});
+            fileOf({u"LUMIRA", lineOf({.quantity = u"1", .description = u" TENIS CASUAL "}),
+                    lineOf({.size = u"35", .barcode = u" ", .description = u" TENIS CASUAL "}),
+                    lineOf({.quantity = u"1", .size = u"36", .description = u" TENIS CASUAL "}),
+                    lineOf({.colour = u"RUBRO"})});
         files[u"/programa/77 ACESSORIO.TXT"] =
-            fileOf({u"BRISA KO", u"2;AZUL;;BOLSA;S;B;204455667788;3104527001;9,90;;P;",
+            fileOf({u"BRISA KO", u"2; AZUL ;; BOLSA ;S;B;204455667788;3104527001;9,90;;P;",
                     u"1;RUBRO;;BOLSA;S;B;204455667788;3104527001"});
         files[u"/programa/77 CORRUGADO.TXT"] =
             fileOf({u"LUMIRA", u"1;;M1;F;AZUL;TENIS;20;G1;G2;T;S;D;5/7;;;",
@@ -52,6 +54,7 @@ class RamosTest : public testing::Test, protected LoadedWorkbench {
 };
 
 TEST_F(RamosTest, JobOfEachKindWithNothingToPrint) {
+    form.PackX = 9;
     using Case = std::tuple<TextView, std::string, TextView>;
     for (const auto& [kind, set_up, price] :
          {Case{front, "unit mm; width 9000; height 2660; paper 256; width 9000", u" "},
@@ -67,11 +70,15 @@ TEST_F(RamosTest, JobOfEachKindWithNothingToPrint) {
         form.cmb_vol2.clear();
         form.txtpreco.text = u" ";
         form.PackLinhaX = form.PackLinhaY = 9;
+        form.txtbarra.text = u"old";
+        form.marca_logo.clear();
         EXPECT_EQ(
             printed({"printer", "unit", "paper", "width", "height", "page", "end", "message"}),
             listOf("printer Etiquetas; " + set_up + "; end; printer Papel; " + asked));
         EXPECT_EQ(machine.printers.face, utf8(form.NomeFonte));
         EXPECT_EQ(form.txtpreco.text, price);
+        EXPECT_EQ(form.marca_logo, form.LBLBRISAKO.caption.substr(0, 1));
+        EXPECT_NE(form.txtbarra.text, u"old");
     }
     EXPECT_EQ((std::array{form.PackX, form.PackY, form.Mx4045_1, form.Mx4045_2, form.Mx4045}),
               (std::array{3.0F, 5.0F, 7.0F, 8.0F, 9.0F}));
@@ -109,7 +116,7 @@ TEST_F(RamosTest, ChecksOfEachKindInTheirOrder) {
 }
 
 TEST_F(RamosTest, LabelsAndTheNextItem) {
-    const std::string box = "202611/OFERTA|OFERTA|527|FAIXA A|3104527001|TENIS CASUAL|AZUL|";
+    const std::string box = "202611/OFERTA|OFERTA|527|FAIXA A|3104527001| TENIS CASUAL |AZUL|";
     const std::string codes = "|204455|6677888|", end = "|COD: 3104527|2|044556|677888|";
     load(front);
     form.coluna_etiqueta = 2;
@@ -133,6 +140,41 @@ TEST_F(RamosTest, LabelsAndTheNextItem) {
     EXPECT_EQ(form.txtcor.text + form.txtpreco.text + form.lblbarra.caption, u"RUBRORUBRO");
     EXPECT_EQ(printed({"message"}), Log{asked});
     EXPECT_EQ(texts() + machine.printers.unit, "BOLSA RUBRO|pixels");
+}
+
+TEST_F(RamosTest, PanelsAndTheirCaptionDecideBesideTheKind) {
+    load(front);
+    load(pack);
+    form.cmbtipo.type(Text(tipo::oculta));
+    EXPECT_EQ(printed({"page"}, Answer::yes), Log(3, "page"));
+    EXPECT_EQ(form.cmb_referencia1.entries.size() + form.cmb_referencia.entries.size(), 2U + 1U);
+    load(front);
+    form.cmbtipo.type(Text(pack));
+    EXPECT_EQ(printed({"message", "page"}, Answer::yes), Log{asked});
+    EXPECT_EQ(form.cmb_referencia1.entries.size() + form.cmb_referencia.entries.size(), 1U + 2U);
+    form.cmbtipo.type(Text(front));
+    form.txtcodigo.text = u"3104527";
+    form.Frame1.caption = pack;
+    printed({}, Answer::yes);
+    EXPECT_EQ(form.cmb_referencia.text + form.txtcor.text, u"3104527 | TENIS CASUAL | RUBRO");
+}
+
+TEST_F(RamosTest, WhatFailsOnTheWayToTheNextItemIsPassedOver) {
+    for (const TextView kind : {front, loose, pack}) {
+        load(kind);
+        ListField& items = kind == pack ? form.cmb_referencia1 : form.cmb_referencia;
+        items.entries.resize(2);
+        form.List1.clear();
+        EXPECT_EQ(failureOf([&] { printed({}, Answer::yes); }), 0); // no line to take off
+        load(kind);
+        form.List1.entries[1] = u"";
+        form.List1.entries.back() = kind == pack ? u";;M2;F;AZUL;BOTA;20;G1;G2;T;S;D;8/x;;;"
+                                                 : u"40000;RUBRO;34;BOLSA;TENIS CASUAL;B;3104527;"
+                                                   u"3104527;;;";
+        items.entries.back() = kind == loose ? u"3104527|BOLSA|RUBRO" : items.entries.back();
+        EXPECT_EQ(failureOf([&] { printed({}, Answer::yes); }), 0);
+        EXPECT_EQ(form.txtcodigo1.text + form.txtcodigo.text, kind == pack ? u"M2" : u"3104527");
+    }
 }
 
 TEST_F(RamosTest, VolumesOfACartonAndTheNextOne) {

@@ -158,7 +158,8 @@ struct FakeFiles final : Files, Pictures, Fake {
         return names;
     }
     std::string read(TextView path) const override {
-        return fileExists(path) ? bytes.find(path)->second : throw refusal();
+        const bool readable = fileExists(path) && !journal.failing.contains("read");
+        return readable ? bytes.find(path)->second : throw refusal();
     }
     void makeFolder(TextView path) override { journal.note("folder", utf8(path)); }
     void deleteFile(TextView path) override {
@@ -218,10 +219,10 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
     void Print(TextView text) override {
         journal.note("print", face, points, weight, "at", x, y, unit, utf8(text));
     }
-    /// One unit a character at 7 points.
+    /// One millimetre a character at 7 points, of 24 pixels.
     float TextWidth(TextView text) const override {
         journal.note("measure", face, points);
-        return static_cast<float>(text.size()) * points / 7.0F;
+        return static_cast<float>(text.size()) * points / 7.0F * (unit == "pixels" ? 24.0F : 1.0F);
     }
     void Line(int flags, float x1, float y1, float x2, float y2, Pixel colour) override {
         journal.note(flags == filled_box && colour == black_pixel ? "rule" : "line", x1, y1, x2, y2,
