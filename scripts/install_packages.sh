@@ -13,7 +13,7 @@ esac
 
 packages=(
     g++ cmake ninja-build ccache                           # build
-    qt6-base-dev                                           # window and printing
+    qt6-base-dev qt6-translations-l10n                     # window and printing
     fonts-crosextra-carlito fonts-liberation fonts-open-sans # faces of the labels
     poppler-utils                                          # label pages as pictures
 )

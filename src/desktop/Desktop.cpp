@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 
 namespace etiquetas {
 
@@ -16,17 +17,28 @@ Desktop::Desktop(const QString& folder)
              folders_, commands_}),
       bridge_(focus_, [this](const QString& description) { endOnFailure(description); }) {
     bridgeWindows();
-    messages_.standOver(&window_, [this] { bridge_.pushAll(); });
+    messages_.standOver([this] { return windowUnderBoxes(); }, [this] { bridge_.pushAll(); });
     process_.onEnd([this] { end(0); });
     window_.onClose([this] {
         bridge_.run([this] { FrmPadrao_unload(form_); });
         end(exit_code_.value_or(0));
     });
     window_.onResize([this] { bridge_.run([this] { FrmPadrao_resize(form_); }); });
-    surface_.onJobWritten([this](const QString& path) {
-        window_.tell(
-            QStringLiteral("Etiquetas gravadas em %1").arg(QDir::toNativeSeparators(path)));
-    });
+    surface_.onJobWritten([this](const QString& path) { tellOfJob(path); });
+}
+
+// None at the start, when the main window does not stand anywhere yet.
+QWidget* Desktop::windowUnderBoxes() {
+    QWidget& active = bridge_.activeWindow();
+    return active.isVisible() ? &active : nullptr;
+}
+
+void Desktop::tellOfJob(const QString& path) {
+    const QString folder = QStringLiteral("impressos/");
+    window_.tell(path.isEmpty() ? QStringLiteral("Etiquetas não gravadas em ") + folder
+                                : QStringLiteral("Etiquetas gravadas em ") + folder +
+                                      QFileInfo(path).fileName(),
+                 QDir::toNativeSeparators(path));
 }
 
 void Desktop::bridgeWindows() {
@@ -65,7 +77,8 @@ void Desktop::end(int exit_code) {
 
 void Desktop::endOnFailure(const QString& description) {
     surface_.dropJob();
-    messages_.show({.text = toText(description), .symbol = Symbol::stop});
+    messages_.show(
+        {.text = toText(description) + u"\n\nO programa será encerrado.", .symbol = Symbol::stop});
     end(1);
 }
 

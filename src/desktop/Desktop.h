@@ -39,6 +39,8 @@ class Desktop {
 
   private:
     void bridgeWindows();
+    [[nodiscard]] QWidget* windowUnderBoxes();
+    void tellOfJob(const QString& path);
     void end(int exit_code);
     void endOnFailure(const QString& description);
 

@@ -9,13 +9,19 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QTimer>
 
+#include <limits>
+
 namespace etiquetas {
 
 namespace {
+
+// The toolkit would cut a text at 32,767 characters, and the fields would take the cut one.
+constexpr int any_length = std::numeric_limits<int>::max();
 
 // Key code of the keys that walk through the fields, 0 for any other.
 KeyCode walkingKey(const QKeyEvent& event) {
@@ -32,6 +38,20 @@ KeyCode walkingKey(const QKeyEvent& event) {
     }
 }
 
+// True for the mnemonic of a command: where that is hidden, its letter must not be written. The
+// toolkit tells Ctrl and Alt for the key that writes third characters.
+bool isMnemonic(const QKeyEvent& event) {
+    const auto modifiers = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+    return modifiers == Qt::AltModifier && !event.text().isEmpty() &&
+           event.text().front().isPrint();
+}
+
+// True for a key that is held down on a command, which is pressed once: one item, one job.
+bool repeatsCommand(const FieldRow& row, const QKeyEvent& event) {
+    return row.click && event.isAutoRepeat() &&
+           (walkingKey(event) == key::enter || event.key() == Qt::Key_Space);
+}
+
 // Character of a key, 0 when it writes none. The toolkit gives a text to keys, too, that only move
 // or delete.
 KeyCode characterOf(const QKeyEvent& event) {
@@ -39,11 +59,16 @@ KeyCode characterOf(const QKeyEvent& event) {
         return key::enter;
     }
     const bool writes = event.key() != Qt::Key_Tab && event.key() != Qt::Key_Backtab &&
-                        event.key() != Qt::Key_Delete && event.modifiers() != Qt::AltModifier;
+                        event.key() != Qt::Key_Delete;
     if (!writes) {
         return key::none;
     }
     return event.text().size() == 1 ? event.text().front().unicode() : key::none;
+}
+
+// A click on a label comes to the panel that the label stands in too, and is none on the panel.
+bool isOn(const QWidget& widget, const QMouseEvent& event) {
+    return widget.childAt(event.position().toPoint()) == nullptr;
 }
 
 // A list's text is edited by a widget inside it.
@@ -73,8 +98,12 @@ void EventBridge::add(BridgedWindow window) {
 
 void EventBridge::watch(FieldRow& row) {
     row.widget->installEventFilter(this);
+    if (auto* const edit = qobject_cast<QLineEdit*>(row.widget)) {
+        edit->setMaxLength(any_length);
+    }
     if (auto* const list = qobject_cast<QComboBox*>(row.widget)) {
         list->lineEdit()->installEventFilter(this);
+        list->lineEdit()->setMaxLength(any_length);
         // A typed text is no chosen entry, not even one that an entry equals.
         disconnect(list->lineEdit(), &QLineEdit::editingFinished, list, nullptr);
         connect(list->lineEdit(), &QLineEdit::textEdited, list, [list](const QString& typed) {
@@ -143,9 +172,7 @@ EventBridge::Place EventBridge::placeOf(const QObject* widget) {
     return {};
 }
 
-// The focus of the window that is active, or was so last: another program's window and a message
-// box don't count.
-QWidget* EventBridge::focusedWidget() {
+QWidget& EventBridge::activeWindow() {
     for (BridgedWindow& window : windows_) {
         if (window.window->isActiveWindow()) {
             current_ = &window;
@@ -154,7 +181,11 @@ QWidget* EventBridge::focusedWidget() {
     if (current_ == nullptr || current_->window->isHidden()) {
         current_ = &windows_.front();
     }
-    return current_->window->focusWidget();
+    return *current_->window;
+}
+
+QWidget* EventBridge::focusedWidget() {
+    return activeWindow().focusWidget();
 }
 
 void EventBridge::giveFocusTo(const TextField& field) {
@@ -177,17 +208,24 @@ bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress:
         settleFocus();
         return handleKey(place, *static_cast<QKeyEvent*>(event));
+    case QEvent::MouseButtonPress:
+        // The arrow of a list opens it with what the field before it has loaded, unless that hides
+        // it. Elsewhere the entering event comes behind the click, and what it selects stays.
+        if (qobject_cast<QComboBox*>(watched) != nullptr) {
+            settleFocus();
+        }
+        return row->widget->isHidden();
     case QEvent::InputMethod:
         settleFocus();
         return handleComposed(*row, *static_cast<QInputMethodEvent*>(event));
     case QEvent::MouseButtonDblClick:
-        if (row->dblclick && watched == row->widget) {
+        if (row->dblclick && isOn(*row->widget, *static_cast<QMouseEvent*>(event))) {
             settleFocus();
             run(row->dblclick);
         }
         return false;
     case QEvent::Wheel:
-        // The wheel must not change a list that the operator only passes over.
+        // Nor must it change a list that has no focus.
         return !row->widget->hasFocus();
     default:
         return false;
@@ -239,14 +277,18 @@ void EventBridge::press(FieldRow& row) {
 }
 
 bool EventBridge::handleKey(const Place& place, const QKeyEvent& event) {
+    if (isMnemonic(event) || repeatsCommand(*place.row, event)) {
+        return true;
+    }
     const bool walked = handleWindowKey(place, event);
     const bool swallowed = handleCharacter(*place.row, event);
     moveFocus();
     return walked || swallowed;
 }
 
-// True when the key walked to another field. Enter on a command presses it instead, and the arrow
-// keys walk through the entries of a list.
+// True when the key walked to another field. Enter on a command presses it instead, and the focus
+// stays, so that one more Enter prints the next item. The arrow keys walk through the entries of a
+// list.
 bool EventBridge::handleWindowKey(const Place& place, const QKeyEvent& event) {
     const KeyCode code = walkingKey(event);
     const bool presses = code == key::enter && place.row->click;

@@ -50,6 +50,9 @@ class EventBridge final : public QObject {
     void run(const std::function<void()>& handler);
     /// Shows what the fields hold.
     void pushAll();
+    /// The window that is active, or was so last: another program's window and a message box don't
+    /// count.
+    [[nodiscard]] QWidget& activeWindow();
     /// No event runs any more.
     void stop() { stopped_ = true; }
 

@@ -29,6 +29,7 @@ void showOrHide(QWidget& widget, bool visible) {
 
 void pushCaption(QLabel* label, const Text& caption, bool visible) {
     if (label != nullptr) {
+        label->setTextFormat(Qt::PlainText); // an order may hold anything, markup among it
         label->setText(toQString(caption));
         showOrHide(*label, visible);
     }
@@ -60,6 +61,12 @@ void colourBackground(QWidget& widget, const Colour& colour) {
     }
 }
 
+// A locked field shows that it is one.
+Colour shownColour(const TextField& field) {
+    constexpr Colour light_grey{240, 240, 240};
+    return field.locked && field.back_colour == white ? light_grey : field.back_colour;
+}
+
 void pushEdit(QLineEdit& edit, const TextField& field) {
     const QString text = toQString(field.text);
     if (edit.text() != text) {
@@ -68,7 +75,7 @@ void pushEdit(QLineEdit& edit, const TextField& field) {
     select(edit, field.selection);
     edit.setReadOnly(field.locked);
     edit.setToolTip(toQString(field.tooltip));
-    colourBackground(edit, field.back_colour);
+    colourBackground(edit, shownColour(field));
     showOrHide(edit, field.visible);
 }
 
@@ -107,7 +114,10 @@ void pushList(QComboBox& box, const ListField& field, std::vector<Text>& shown) 
     showOrHide(box, field.visible);
 }
 
-QPixmap pixmapOf(const Raster& raster, const QSize& room) {
+// Sharp on a screen of any scale.
+QPixmap pixmapOf(const Raster& raster, const QLabel& label) {
+    const qreal dots = label.devicePixelRatioF();
+    const QSize room = label.contentsRect().size() * dots;
     QImage image(raster.width, raster.height, QImage::Format_RGB32);
     for (int y = 0; y < raster.height; ++y) {
         for (int x = 0; x < raster.width; ++x) {
@@ -115,8 +125,11 @@ QPixmap pixmapOf(const Raster& raster, const QSize& room) {
         }
     }
     const bool larger = image.width() > room.width() || image.height() > room.height();
-    return QPixmap::fromImage(
-        larger ? image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation) : image);
+    if (larger) {
+        image = image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        image.setDevicePixelRatio(dots);
+    }
+    return QPixmap::fromImage(image);
 }
 
 } // namespace
@@ -159,7 +172,7 @@ FieldRow mirrored(QLabel& label, PictureField& field) {
     row.widget = &label;
     row.push = [&label, &field, shown = std::make_shared<Picture>()] {
         if (field.picture != *shown) {
-            label.setPixmap(field.picture ? pixmapOf(*field.picture, label.size()) : QPixmap());
+            label.setPixmap(field.picture ? pixmapOf(*field.picture, label) : QPixmap());
             *shown = field.picture;
         }
         showOrHide(label, field.visible);

@@ -5,13 +5,14 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QStandardPaths>
 
 namespace etiquetas {
 
 Text QtFolderPicker::pick(TextView title) {
-    const QString folder =
-        QFileDialog::getExistingDirectory(QApplication::activeWindow(), toQString(title),
-                                          QDir::homePath(), QFileDialog::ShowDirsOnly);
+    const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+    const QString folder = QFileDialog::getExistingDirectory(
+        QApplication::activeWindow(), toQString(title), desktop, QFileDialog::ShowDirsOnly);
     return toText(QDir::toNativeSeparators(folder));
 }
 

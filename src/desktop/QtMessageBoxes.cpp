@@ -2,7 +2,7 @@
 
 #include "desktop/QtText.h"
 
-#include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -26,17 +26,32 @@ QMessageBox::Icon iconOf(Symbol symbol) {
     return QMessageBox::NoIcon;
 }
 
+// The key that brought a box up, and is still held down, must not answer it.
+class HeldKeys final : public QObject {
+  public:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat();
+    }
+};
+
+void ask(QMessageBox& box) {
+    HeldKeys held;
+    for (QAbstractButton* const button : box.buttons()) {
+        button->installEventFilter(&held);
+    }
+    box.exec();
+}
+
 } // namespace
 
-void QtMessageBoxes::standOver(QWidget* window, std::function<void()> before_box) {
-    window_ = window;
+void QtMessageBoxes::standOver(std::function<QWidget*()> window, std::function<void()> before_box) {
+    window_ = std::move(window);
     before_box_ = std::move(before_box);
 }
 
 Answer QtMessageBoxes::show(const Message& message) {
     before_box_();
-    QWidget* const active = QApplication::activeWindow();
-    QMessageBox box(active != nullptr ? active : window_);
+    QMessageBox box(window_());
     box.setIcon(iconOf(message.symbol));
     box.setWindowTitle(toQString(message.title.empty() ? default_title : message.title));
     // File names and order texts may hold anything, markup among it.
@@ -44,7 +59,7 @@ Answer QtMessageBoxes::show(const Message& message) {
     box.setText(toQString(message.text));
     if (message.buttons == Buttons::ok) {
         box.addButton(QMessageBox::Ok);
-        box.exec();
+        ask(box);
         return Answer::ok;
     }
     QPushButton* const yes = box.addButton(QMessageBox::Yes);
@@ -53,7 +68,7 @@ Answer QtMessageBoxes::show(const Message& message) {
     no->setText(QStringLiteral("&Não"));
     box.setDefaultButton(yes);
     box.setEscapeButton(no);
-    box.exec();
+    ask(box);
     return box.clickedButton() == yes ? Answer::yes : Answer::no;
 }
 

@@ -6,6 +6,8 @@
 #include "desktop/QtText.h"
 
 #include <QDir>
+#include <QGuiApplication>
+#include <QScopeGuard>
 
 #include <utility>
 
@@ -123,10 +125,13 @@ void QtPrintSurface::EndDoc() {
     if (!job) {
         return;
     }
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor); // a long job takes its time here
+    const auto ended = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
     if (!job->target().built_in) {
         job->send();
         return;
     }
+    job_written_({});
     job_written_(
         writeJobFile(folder_, clock_(), [&job](const QString& path) { job->write(path); }));
 }

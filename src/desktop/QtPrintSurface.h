@@ -33,7 +33,8 @@ class QtPrintSurface final : public PrintSurface {
     QtPrintSurface(const QtPrinters& printers, const QString& folder,
                    Clock clock = QDateTime::currentDateTime);
 
-    /// What is called with the path of each file that the built-in device has written.
+    /// What is called with the path of each file that the built-in device has written, and with
+    /// none before it is.
     void onJobWritten(JobWritten told) { job_written_ = std::move(told); }
     /// Forgets the open job, if there is one: nothing of it is printed.
     void dropJob() { job_.reset(); }

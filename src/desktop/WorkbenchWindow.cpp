@@ -51,6 +51,8 @@ QComboBox* newList(const QString& name) {
     list->setEditable(true);
     list->setInsertPolicy(QComboBox::NoInsert);
     list->setCompleter(nullptr);
+    // The wheel must not give the focus, and by that its turns, to a list that it passes over.
+    list->setFocusPolicy(Qt::StrongFocus);
     // Its width must not follow its entries: there may be many thousands.
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -174,7 +176,8 @@ QGroupBox* newItemPanel() {
     int column = 0;
     for (const char* const name :
          {"txtcodigo", "txtsemana", "txtbandeira", "txtpreco", "txtpromocao"}) {
-        addEdit(*grid, QString::fromLatin1(name), {3, column++});
+        const int columns = column == 4 ? 2 : 1;
+        addEdit(*grid, QString::fromLatin1(name), {3, column++, columns});
     }
     grid->setRowStretch(8, 1);
     return panel;
@@ -300,10 +303,13 @@ WorkbenchWindow::WorkbenchWindow() {
     setCentralWidget(centre);
     statusBar()->setSizeGripEnabled(false);
     orderTabs(*this);
+    // Not where the label kind is: leaving that would load the last order before another is typed.
+    findChild<QLineEdit*>(QStringLiteral("txtarquivo"))->setFocus();
 }
 
-void WorkbenchWindow::tell(const QString& status) {
+void WorkbenchWindow::tell(const QString& status, const QString& tooltip) {
     statusBar()->showMessage(status);
+    statusBar()->setToolTip(tooltip);
 }
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event) {

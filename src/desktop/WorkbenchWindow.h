@@ -14,8 +14,8 @@ class WorkbenchWindow final : public QMainWindow {
   public:
     WorkbenchWindow();
 
-    /// Shows a line at the foot of the window until the next one.
-    void tell(const QString& status);
+    /// Shows a line at the foot of the window until the next one; the tool tip tells more.
+    void tell(const QString& status, const QString& tooltip);
     /// What runs when the window is closed.
     void onClose(std::function<void()> closed) { closed_ = std::move(closed); }
     /// What runs when the window gets another size.

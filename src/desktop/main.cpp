@@ -1,10 +1,18 @@
 #include "desktop/Desktop.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
+    // The toolkit's own texts, of its folder picker say, in the operator's language.
+    QTranslator toolkit;
+    if (toolkit.load(QStringLiteral("qtbase_pt_BR"),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(&toolkit);
+    }
     etiquetas::Desktop desktop(QApplication::applicationDirPath());
     desktop.start();
     return desktop.exitCode() ? *desktop.exitCode() : QApplication::exec();

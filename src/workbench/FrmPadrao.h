@@ -77,6 +77,7 @@ struct MargensDialog {
             .Label2 = {u"3"},
             .Label3 = {.visible = false},
             .Label6 = {u"Margem Superior"},
+            .txtmargem1 = {.text = u"Text1", .caption = u"Margem Esquerda (mm)"},
             .txtmargem2 = {.visible = false}};
 }
 

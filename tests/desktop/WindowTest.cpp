@@ -2,16 +2,20 @@
 #include "demo/Operator.h"
 #include "desktop/QtText.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QWheelEvent>
+#include <QtTest/QTest>
 #include <gtest/gtest.h>
 
 namespace etiquetas {
@@ -157,6 +161,7 @@ TEST_F(WindowTest, walksItsListsByArrowAndLoadsThemWhenTheyAreLeft) {
 TEST_F(WindowTest, changesAListByTheWheelOnlyWhileItHasTheFocus) {
     loadOrder();
     auto& kinds = worker.widget<QComboBox>(u"cmbtipo"_s);
+    EXPECT_EQ(kinds.focusPolicy(), Qt::StrongFocus) << "a turn must not give it the focus";
     const auto turnWheel = [&] {
         QWheelEvent turn({5, 5}, kinds.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
                          Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -182,6 +187,52 @@ TEST_F(WindowTest, filtersKeysAndComposedTexts) {
     worker.press(Qt::Key_Home);
     worker.press(Qt::Key_Delete);
     EXPECT_EQ(worker.text(u"txtnumero(1)"_s), u"2"_s);
+    worker.click(u"txtnumero(0)"_s);
+    worker.click(u"txtnumero(1)"_s);
+    EXPECT_EQ(worker.widget<QLineEdit>(u"txtnumero(1)"_s).selectedText(), u"2"_s);
+    worker.pressMnemonic(Qt::Key_X); // of no command
+    EXPECT_EQ(worker.text(u"txtnumero(1)"_s), u"2"_s);
+}
+
+TEST_F(WindowTest, takesTheTextsOfAnOrderAsTheyStand) {
+    write(u"pedido 77 frente.txt"_s, "LUMIRA\r\n1;PRETO;<b>3;;" + QByteArray(40'000, 'A') +
+                                         ";231045270100;3104527001;32;BK;A1\r\n");
+    loadOrder();
+    worker.press(Qt::Key_Return); // leaves the item list, which loads the item again
+    EXPECT_EQ(worker.text(u"txtdescricao"_s).size(), 40'000);
+    EXPECT_EQ(worker.text(u"TXTPARES"_s), u"1"_s);
+    EXPECT_EQ(worker.widget<QLabel>(u"Label7(0)"_s).textFormat(), Qt::PlainText);
+}
+
+TEST_F(WindowTest, pressesACommandOnceAndAnswersNoBoxByAKeyThatIsHeldDown) {
+    loadOrder();
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+    auto& print = worker.widget<QPushButton>(u"cmd_printacessorio"_s);
+    QApplication::sendEvent(&print, &held);
+    EXPECT_TRUE(jobs().isEmpty());
+    bool stands = false;
+    worker.beforeAnswer([&] {
+        QWidget* const box = QApplication::activeModalWidget();
+        QApplication::sendEvent(box->focusWidget(), &held);
+        stands = box->isVisible();
+    });
+    worker.click(u"cmd_printacessorio"_s);
+    EXPECT_TRUE(stands);
+}
+
+TEST_F(WindowTest, opensItsOptionsByTheFrameAloneAndItsItemsAsTheyAreNow) {
+    loadOrder();
+    worker.doubleClick(u"LBLBRISAKO"_s);
+    EXPECT_FALSE(desktop->form().Frame2.visible);
+    worker.doubleClick(u"Frame4"_s);
+    EXPECT_TRUE(desktop->form().Frame2.visible);
+    write(u"pedido 78 frente.txt"_s, order_file);
+    worker.type(u"txtarquivo"_s, u"78"_s);
+    auto& items = worker.widget<QComboBox>(u"cmb_referencia"_s);
+    QTest::mouseClick(&items, Qt::LeftButton, Qt::NoModifier, {items.width() - 8, 8});
+    EXPECT_TRUE(settings().contains("arquivo=78")); // the order was loaded before its list opened
+    EXPECT_TRUE(items.view()->isVisible());
+    items.hidePopup();
 }
 
 TEST_F(WindowTest, keepsTheTotalsWhenTheyOverflow) {
@@ -215,7 +266,8 @@ TEST_F(WindowTest, endsWithOneBoxAndWithoutItsOpenJobOnAnUnguardedFailure) {
     worker.type(u"txtlote"_s, u"99999"_s); // more than 16 bits hold
     worker.click(u"cmb_referencia"_s);
     worker.press(Qt::Key_Tab);
-    EXPECT_EQ(boxTexts(), std::vector{u"Estouro: um número é grande demais."_s});
+    EXPECT_EQ(boxTexts(),
+              std::vector{u"Estouro: um número é grande demais.\n\nO programa será encerrado."_s});
     EXPECT_EQ(desktop->exitCode(), 1);
     // Nothing runs any more.
     worker.type(u"txtarquivo"_s, u"999"_s);
