@@ -12,7 +12,8 @@ namespace etiquetas {
 Text QtFolderPicker::pick(TextView title) {
     const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
     const QString folder = QFileDialog::getExistingDirectory(
-        QApplication::activeWindow(), toQString(title), desktop, QFileDialog::ShowDirsOnly);
+        QApplication::activeWindow(), toQString(title),
+        QDir(desktop).exists() ? desktop : QDir::homePath(), QFileDialog::ShowDirsOnly);
     return toText(QDir::toNativeSeparators(folder));
 }
 

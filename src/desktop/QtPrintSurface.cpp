@@ -5,6 +5,7 @@
 #include "desktop/JobFile.h"
 #include "desktop/QtText.h"
 
+#include <QCursor>
 #include <QDir>
 #include <QGuiApplication>
 #include <QScopeGuard>

@@ -160,7 +160,7 @@ QLabel* newPhotograph() {
 QGroupBox* newItemPanel() {
     auto* const panel = named<QGroupBox>(QStringLiteral("Frame1"));
     auto* const grid = newGrid(*panel);
-    addList(*grid, QStringLiteral("cmb_referencia"), {0, 0, 6});
+    addList(*grid, QStringLiteral("cmb_referencia"), {0, 0, 5});
     auto* const below = new QHBoxLayout;
     below->setContentsMargins(0, 8, 0, 4);
     below->setSpacing(16);
@@ -170,14 +170,13 @@ QGroupBox* newItemPanel() {
     left->addStretch();
     below->addLayout(left, 1);
     below->addWidget(newPhotograph(), 0, Qt::AlignTop);
-    grid->addLayout(below, 2, 0, 1, 6);
-    addEdit(*grid, QStringLiteral("txtdescricao"), {2, 0, 4});
-    addEdit(*grid, QStringLiteral("txtcor"), {2, 4, 2});
+    grid->addLayout(below, 2, 0, 1, 5);
+    addEdit(*grid, QStringLiteral("txtdescricao"), {2, 0, 3});
+    addEdit(*grid, QStringLiteral("txtcor"), {2, 3, 2});
     int column = 0;
     for (const char* const name :
          {"txtcodigo", "txtsemana", "txtbandeira", "txtpreco", "txtpromocao"}) {
-        const int columns = column == 4 ? 2 : 1;
-        addEdit(*grid, QString::fromLatin1(name), {3, column++, columns});
+        addEdit(*grid, QString::fromLatin1(name), {3, column++});
     }
     grid->setRowStretch(8, 1);
     return panel;
