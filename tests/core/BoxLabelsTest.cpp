@@ -88,6 +88,7 @@ TEST_F(BoxLabelsTest, FrontTextsByTheirLengths) {
           Case{{.promotion = u"P "}, " P", {"C16+ 32 29 P"}},
           Case{{.promotion = u" P "}, " P", {"C14+ 32 29 P"}},
           Case{{.price = u"1990"}, " 90", {"C9+ 38.629 11 90"}},
+          Case{{.price = u"1,2,34"}, "C30", {"C30+ 30.257 8.7 1,"}},
           Case{{.price = u"1990"}, "R$", {"M7+ 35.579 15.4 R$"}}}) {
         EXPECT_EQ(with(piece, drawn(Kind::front, label)), lines) << piece;
     }

@@ -97,9 +97,12 @@ TEST_F(CamposTest, OrdersAreLoadedOnEnterAndOnLeaving) {
         cmb_referencia_leave(form);
         EXPECT_EQ(form.txtcor.text + u" " + form.TXTPARES.text + u" " + form.txtqte1.text, fields);
     }
-    form.cmb_referencia1.type(u"no such item");
-    cmb_referencia1_leave(form);
-    EXPECT_EQ(form.txtqte1.text, u"");
+    for (const TextView item : {u" ", u"no such item"}) {
+        form.txtqte1.text = u"Q";
+        form.cmb_referencia1.type(Text(item));
+        cmb_referencia1_leave(form);
+        EXPECT_EQ(form.txtqte1.text, item == u" " ? u"Q" : u"");
+    }
 }
 
 TEST_F(CamposTest, TotalsAndTheirCaptions) {

@@ -1,6 +1,7 @@
 #include "workbench/Impressao.h"
 
 #include "support/FakePlatform.h"
+#include "workbench/Campos.h"
 #include "workbench/Pedido.h"
 
 #include <gtest/gtest.h>
@@ -45,14 +46,16 @@ class ImpressaoTest : public testing::Test, protected LoadedWorkbench {
 };
 
 TEST_F(ImpressaoTest, OneJobAndTheNextItem) {
-    form.FrmMargensOcultaZPL2.open = form.FrmMargensPackZPL.open = true;
+    form.FrmMargensOcultaZPL2.open = form.FrmMargensCxZPL45.open = form.FrmMargensPackZPL.open =
+        true;
     form.coluna_etiqueta = 2;
     EXPECT_EQ(printed(Answer::yes), (Log{label_1, label_2, label_1, label_2}));
     EXPECT_EQ(machine.logged({"printer", "paper", "width", "height", "page", "end", "message"}),
               (Log{"printer Etiquetas", "paper 256", "width 9000", "height 1200", "page", "page",
                    "end", "printer Papel", closing}));
     EXPECT_EQ(form.marca_logo, u"L");
-    EXPECT_FALSE(form.FrmMargensOcultaZPL2.open || form.FrmMargensPackZPL.open);
+    EXPECT_FALSE(form.FrmMargensOcultaZPL2.open || form.FrmMargensCxZPL45.open ||
+                 form.FrmMargensPackZPL.open);
     EXPECT_EQ(form.cmb_referencia.text, u"3104527 | TENIS CASUAL | RUBRO");
     EXPECT_EQ(left(), (Counts{1, 2}));
     // Of the lines the one at the item's position has gone.
@@ -61,6 +64,9 @@ TEST_F(ImpressaoTest, OneJobAndTheNextItem) {
 
     form.LBLBRISAKO.caption = u"BRISA KO";
     form.Frame2.visible = true;
+    form.Margem_oculta11 = 0;        // read before the header strip
+    form.Label7[13].caption = u"34"; // the last slot counts
+    std::swap(form.txtnumero[0].text, form.txtnumero[13].text);
     EXPECT_EQ(printed(Answer::yes), (Log{label_1, label_2}));
     EXPECT_EQ(machine.logged({"print"})[1],
               "print Franklin Gothic Medium 10 bold at 51 6 mm Pedido: 77");
@@ -68,7 +74,7 @@ TEST_F(ImpressaoTest, OneJobAndTheNextItem) {
     EXPECT_EQ(form.marca_logo, u"B");
     EXPECT_EQ(left(), (Counts{0, 1}));
     EXPECT_EQ(form.txtcodigo.text + form.txtcor.text + form.txtsemana.text + form.txtbandeira.text +
-                  form.txtpreco.text + form.txtdescricao.text + u"|" + form.txtnumero[0].text +
+                  form.txtpreco.text + form.txtdescricao.text + u"|" + form.txtnumero[13].text +
                   form.txtpromocao.text,
               u"|1OFERTA"); // the last two stay
 }
@@ -80,6 +86,11 @@ TEST_F(ImpressaoTest, ItemStaysOnNoAndWhereNoneIsChosen) {
     printed(Answer::yes);
     EXPECT_EQ(form.txtcodigo.text, u"");
     EXPECT_EQ(left(), (Counts{2, 3}));
+    form.cmb_referencia.choose(1);
+    cmb_referencia_leave(form);
+    printed(Answer::yes);
+    EXPECT_EQ(form.cmb_referencia.text, u"3104527 | TENIS CASUAL | AZUL");
+    EXPECT_EQ(form.List1.entries[1], lineOf({.quantity = u"1", .colour = u"RUBRO"}));
 }
 
 TEST_F(ImpressaoTest, ChecksComeInOrderAndDrawNothing) {
@@ -115,13 +126,14 @@ TEST_F(ImpressaoTest, MarginsOfTheJob) {
 }
 
 TEST_F(ImpressaoTest, SizeWithoutCodesLeavesTheJobOpen) {
+    form.List1.entries.push_back(lineOf({.size = u"36", .barcode = u" "}));
     for (const TextView size : {u"36", u"G"}) {
         form.Label7[1].caption = size;
         EXPECT_EQ(printed(Answer::yes), (Log{label_1, label_2}));
         EXPECT_EQ(machine.logged({"message", "end", "printer"}),
                   (Log{"printer Etiquetas",
                        "message none ok [] Erro - 1012 - Código Master - Contate Suporte "}));
-        EXPECT_EQ(left(), (Counts{2, 3}));
+        EXPECT_EQ(left(), (Counts{2, 4}));
     }
 }
 

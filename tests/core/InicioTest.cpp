@@ -18,6 +18,13 @@ TEST_F(InicioTest, NewInstallationWithNothingThere) {
     machine.files.bytes[u"/programa/IMPRIMIR.BAT"] = "";
     const std::string logos = "\n Brisako.jpg\n Lumira.jpg\nNão foi(ram) localizado(s)!";
     const std::string missing = "Calibri,Malgun Gothic Semilight,";
+    EXPECT_EQ((Texts{form.txtarquivo.text, form.LBLBRISAKO.caption, form.txtbarra.text,
+                     form.frentecaixa.caption, form.lbllinguagem.caption, form.lblporta.caption,
+                     form.LBLPORTAPARELELA.caption, form.Label7[13].caption}),
+              (Texts{u"1400050831", u"BRISA KO", u"Text1", u"40_45_2", u"Label17", u"Label17",
+                     u"LPT1", u"27"}));
+    EXPECT_TRUE(form.TXTPARES.locked && !form.Frame3.visible && !form.Frame2.visible &&
+                !form.FrmParametroImpressora.FrameUSB.visible);
     FrmPadrao_load(form);
     Log& log = machine.log;
     log.erase(std::unique(log.begin(), log.end()), log.end()); // a write for each key

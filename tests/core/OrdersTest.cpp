@@ -116,16 +116,21 @@ TEST_F(OrdersTest, PhotographOfTheProduct) {
 }
 
 TEST_F(OrdersTest, CodesOfASize) {
-    load({lineOf({.master = u"3104528"}), lineOf({.colour = u"RUBRO"}),
-          lineOf({.description = u"BOTA"}),
+    load({lineOf({.barcode = u"1", .master = u"3104528"}),
+          lineOf({.barcode = u"1", .colour = u"RUBRO"}),
+          lineOf({.barcode = u"1", .description = u"BOTA"}),
           lineOf({.barcode = u" 204455667788 ", .master = u"3104527001 ", .colour = u" AZUL"}),
           lineOf({.barcode = u"second"}), lineOf({.size = u"35 ", .barcode = u"2044556677880"}),
+          lineOf({.size = u"40", .master = u" 3104527001"}),
           lineOf({.size = u"0,5", .barcode = u"20445566778"}),
-          u"1;AZUL;0;TENIS CASUAL;S;B; 200000000008;31045279;P"});
+          u"1;AZUL;0; TENIS CASUAL ;S;B; 200000000008;31045279;P",
+          u"1;AZUL;0;TENIS CASUAL;S;B;second;31045279;P"});
+    form.txtdescricao.text += u" ";
+    form.txtcodigo.text += u" ";
     using Case = std::pair<TextView, Text>;
     for (const auto& [size, codes] :
          {Case{u"34", u"2044556677888 3104527001"}, Case{u"35 ", u"2044556677880 3104527001"},
-          Case{u"35", u" "}, Case{u"0,5", u"20445566778 3104527001"},
+          Case{u"35", u" "}, Case{u"40", u" "}, Case{u"0,5", u"20445566778 3104527001"},
           Case{u"00", u"2000000000084 31045279"}}) {
         ret_codcomplemento(form, size);
         EXPECT_EQ(form.lblbarra.caption + u" " + form.lblmaster.caption, codes) << utf8(size);

@@ -64,14 +64,16 @@ TEST_F(ParametroTest, SecondOpeningShowsAndStoresTheStartValues) {
     EXPECT_TRUE(dialog.to_front && dialog.TXTPATH.text == u"typed");
     FrmParametroImpressora_cmd_sair_click(form);
     EXPECT_TRUE(machine.log.empty() && !dialog.open);
-    machine.files.bytes = {{u"/programa/IMPRIMIR.BAT", ""}};
+    machine.files.bytes = {{u"/programa/IMPRIMIR.BAT", ""},
+                           {ini, "[Impressora]\r\nPath=/pedidos\r\n"}};
     open();
     dialog.TXTPATH.text += u" "; // blank still
     dialog.optoculta4.selected = dialog.optfrentecaixa1.selected = true;
-    EXPECT_EQ(saved(), "[Impressora]\r\nLinguagem=PPLA\r\nPorta=USB\r\nPortaSerial=Com1\r\n"
-                       "ConfiguracaoPortaSerial=9800,N,8,1\r\nPortaParalela=Lpt1\r\n"
-                       "PortaParalelaUSB=Lpt1\r\nNomeCompartilhamento=\r\nPath=\r\nTipoOculta=2\r\n"
-                       "TipoFrenteCaixa=40_45_2\r\nPPLA|USB|Lpt1|/programa|2|40_45_2||");
+    EXPECT_EQ(saved(),
+              "[Impressora]\r\nPath=\r\nLinguagem=PPLA\r\nPorta=USB\r\nPortaSerial=Com1\r\n"
+              "ConfiguracaoPortaSerial=9800,N,8,1\r\nPortaParalela=Lpt1\r\n"
+              "PortaParalelaUSB=Lpt1\r\nNomeCompartilhamento=\r\nTipoOculta=2\r\n"
+              "TipoFrenteCaixa=40_45_2\r\nPPLA|USB|Lpt1|/programa|2|40_45_2||");
     EXPECT_EQ(machine.logged({"message", "delete"}),
               (Log{"message none ok [] O Local Padrão de busca do Arquivo é Inválido...",
                    "delete /programa/IMPRIMIR.BAT"}));

@@ -76,14 +76,14 @@ TEST_F(PedidoTest, WhichFileIsLoaded) {
          {Case{u"/pedidos", u"77", u"TENIS CASUAL"}, Case{u"/gone", u"1400050831", first},
           Case{u"/programa", u" 1400 ", first}, Case{u"  ", u"", first},
           Case{u"/programa", u"b 14", u"B 1400050831 FRENTE.TXT"},
-          Case{u"/programa", u"c*00 f", u"C 1400 Frente.txt"}}) {
+          Case{u"/programa", u"c*00 f ", u"C 1400 Frente.txt"}}) {
         form.lblpath.caption = folder;
         load(tipo::frente_de_caixa, number);
         EXPECT_EQ(form.txtdescricao.text, description);
         EXPECT_EQ(form.lblpath.caption, number == u"77" ? u"/pedidos" : u"/programa");
         EXPECT_EQ(form.filelist.entries.size() > 3, number.empty()) << utf8(number);
     }
-    EXPECT_TRUE(file(u"Varesko.ini").ends_with("[Config]\r\narquivo=c*00 f\r\n"));
+    EXPECT_TRUE(file(u"Varesko.ini").ends_with("[Config]\r\narquivo=c*00 f \r\n"));
 }
 
 TEST_F(PedidoTest, BannerOfTheHeaderAndOrdersWithoutItems) {

@@ -72,6 +72,7 @@ TEST_F(RamosTest, JobOfEachKindWithNothingToPrint) {
         form.PackLinhaX = form.PackLinhaY = 9;
         form.txtbarra.text = u"old";
         form.marca_logo.clear();
+        machine.printers.face.clear();
         EXPECT_EQ(
             printed({"printer", "unit", "paper", "width", "height", "page", "end", "message"}),
             listOf("printer Etiquetas; " + set_up + "; end; printer Papel; " + asked));
@@ -85,6 +86,13 @@ TEST_F(RamosTest, JobOfEachKindWithNothingToPrint) {
     EXPECT_EQ((std::array{form.Margem_oculta1, form.Margem_oculta11, form.Margem_oculta2,
                           form.PackLinhaX, form.PackLinhaY}),
               (std::array{3.0F, 45.0F, 3.0F, 0.0F, 0.0F}));
+    for (const TextView kind : {front, pack}) {
+        load(kind);
+        machine.files.bytes.erase(u"/programa/Varesko.ini");
+        printed({});
+    }
+    EXPECT_EQ((std::array{form.PackX, form.PackY, form.Mx4045_1, form.Mx4045_2, form.Mx4045}),
+              (std::array{3.0F, 3.0F, 0.0F, 40.0F, 3.0F}));
 }
 
 TEST_F(RamosTest, ChecksOfEachKindInTheirOrder) {
