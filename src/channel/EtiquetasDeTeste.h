@@ -8,8 +8,8 @@ struct FrmPadrao;
 struct MargensLinguagem;
 
 // The test labels of the dialogs that calibrate margins, as programs in the printer's language.
-// `cmbintensidade` and `cmbvelocidade` set darkness and speed. A line whose margin is no
-// number of 16 bits where it needs one is left out.
+// `cmbintensidade` and `cmbvelocidade` set darkness and speed. A line whose margin is no number
+// of 16 bits where it needs one is left out.
 
 /// The item code once in each column, in ZPL.
 [[nodiscard]] Programa teste_oculta_zpl(const FrmPadrao& form, const MargensLinguagem& dialogo);

@@ -225,7 +225,7 @@ bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
         }
         return false;
     case QEvent::Wheel:
-        // Nor must it change a list that has no focus.
+        // A list that has no focus takes no turns.
         return !row->widget->hasFocus();
     default:
         return false;
