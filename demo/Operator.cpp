@@ -24,13 +24,18 @@ void settle() {
 }
 
 // A window system gives the focus back to the window behind a closed box; headless, nobody does. A
-// display takes its time for it.
+// display takes its time for it, and gives the focus to a field later still.
 void bringToFront(QWidget& window) {
-    if (!window.isActiveWindow()) {
+    const auto has_focus = [&window] {
+        const QWidget* const focused = QApplication::focusWidget();
+        return window.isActiveWindow() && focused != nullptr && focused->window() == &window;
+    };
+    if (!has_focus()) {
         window.activateWindow();
-        if (!QTest::qWaitForWindowActive(&window)) {
+        if (!QTest::qWaitFor(has_focus)) {
             qWarning("The window does not come to the front.");
         }
+        settle();
     }
 }
 
