@@ -68,7 +68,7 @@ TEST_F(BoxLabelsTest, FrontLayoutInBothColumns) {
     EXPECT_EQ(description + form.txtbarra.text, u"TENISCASUAL2044556677888");
     EXPECT_EQ(machine.logged({"measure"})[0], "measure Franklin Gothic Semilight 7");
     EXPECT_EQ(
-        drawn(Kind::front, {a32 + u"67", u"B", u"", u" 0,00 ", u"P12", u"2044556677888", 2}),
+        drawn(Kind::front, {a32 + u"67", u"B", u"", u" 0,00 ", u"P12", u"2044556677888", 3}),
         listOf(
             "mm; pixels; mm; C8 67 31.4 S/X; C14+ 80 29 P12; stamp 141 27 60.6 35 35 14; stamp 1 2 "
             "52.5 3.5 38 6 crop 355; ~30+ 70 -0.5 527; ~7 85 20.7  FAIXA; ~7+ 52.3 20 M001; ~7 "
@@ -107,7 +107,7 @@ TEST_F(BoxLabelsTest, AccessoryLayoutInBothColumns) {
     EXPECT_FLOAT_EQ(form.Margem_oculta1, 2); // stays moved
     EXPECT_FLOAT_EQ(form.Margem_oculta11, 45);
     EXPECT_EQ(
-        drawn(Kind::accessory, {a32 + u" " + a32, u"B", u"", u"0,00 ", u"P1", u"2044556677888", 2}),
+        drawn(Kind::accessory, {a32 + u" " + a32, u"B", u"", u"0,00 ", u"P1", u"2044556677888", 3}),
         listOf("stamp 1 2 52.7 1.6 22 5 crop 300; ~5+ 52 9.2 " + utf8(a32) + "; ~5+ 52 11 " +
                utf8(a32) +
                "; pixels; mm; stamp 141 27 49.6 14.9 35 8; ~5+ 52 12.8  3104527; ~5+ 63.7 12.8 "

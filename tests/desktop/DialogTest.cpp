@@ -46,6 +46,8 @@ static const std::vector<Calibration> calibrations{
 
 class DialogTest : public testing::TestWithParam<Calibration>, protected SampleWindow {
   protected:
+    DialogTest() { open(); }
+
     void openDialog(const Calibration& calibration) {
         worker.turnTo(u"FrmPadrao"_s);
         worker.click(u"cmd_calibra"_s);

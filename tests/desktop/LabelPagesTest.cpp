@@ -99,7 +99,10 @@ static void expectTexts(const std::vector<PdfText>& page, const Job& job) {
     }
 }
 
-class LabelPagesTest : public testing::TestWithParam<Job>, protected SampleWindow {};
+class LabelPagesTest : public testing::TestWithParam<Job>, protected SampleWindow {
+  protected:
+    LabelPagesTest() { open(); }
+};
 
 // The symbols of a page, the left one first. Each column is read by itself, so that a decoder has
 // no choice between two.

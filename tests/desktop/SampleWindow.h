@@ -10,7 +10,7 @@
 
 namespace etiquetas::test {
 
-/// The real window on a copy of the sample installation, and an operator at it.
+/// The real window on a copy of the sample installation, and an operator at it, once it is opened.
 struct SampleWindow {
     SampleWindow() {
         const QDir samples(QStringLiteral(ETIQUETAS_SAMPLES));
@@ -20,6 +20,9 @@ struct SampleWindow {
         for (const QString& name : names) {
             QFile::copy(samples.filePath(name), folder.filePath(name));
         }
+    }
+
+    void open() {
         desktop.emplace(folder.path());
         desktop->start();
         worker.sitAt(*desktop);

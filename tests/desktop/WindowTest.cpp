@@ -1,5 +1,5 @@
 #include "PdfTools.h"
-#include "demo/Operator.h"
+#include "SampleWindow.h"
 #include "desktop/QtText.h"
 
 #include <QAbstractItemView>
@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QWheelEvent>
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
@@ -33,16 +32,12 @@ constexpr const char* order_file =
     "2;PRETO;34;;BOTA CANO CURTO;2310452701010;3104527001;32;BK;A1\r\n"
     "3;AZUL;35;;TENIS;231045270200;3104527002;32;BK;A1\r\n";
 
-// A real window in a folder of its own, and an operator at it.
-class WindowTest : public testing::Test {
+class WindowTest : public testing::Test, protected SampleWindow {
   protected:
     WindowTest() {
         write(u"Varesko.ini"_s, "[MargemOcultaZebra]\r\nMargem_oculta1=3\r\nMargem_oculta11=45\r\n"
                                 "Margem_oculta2=3\r\n");
         write(u"pedido 77 frente.txt"_s, order_file);
-        for (const QString& logo : {u"brisako.jpg"_s, u"lumira.jpg"_s}) {
-            QFile::copy(QStringLiteral(ETIQUETAS_SAMPLES "/") + logo, folder.filePath(logo));
-        }
     }
 
     void write(const QString& name, const QByteArray& bytes) const {
@@ -51,18 +46,9 @@ class WindowTest : public testing::Test {
         file.write(bytes);
     }
 
-    void open() {
-        desktop.emplace(folder.path());
-        desktop->start();
-        worker.sitAt(*desktop);
-        worker.takeBoxes(); // those of the start-up: faces that the machine lacks
-    }
-
     void loadOrder() {
         open();
-        worker.choose(u"cmbtipo"_s, oculta);
-        worker.type(u"txtarquivo"_s, u"77"_s);
-        worker.press(Qt::Key_Return);
+        load(oculta, "77");
     }
 
     [[nodiscard]] QStringList jobs() const {
@@ -81,15 +67,6 @@ class WindowTest : public testing::Test {
         }
         return texts;
     }
-
-    [[nodiscard]] QByteArray settings() const {
-        QFile file(folder.filePath(u"Varesko.ini"_s));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    QTemporaryDir folder;
-    Operator worker;
-    std::optional<Desktop> desktop;
 };
 
 TEST_F(WindowTest, leadsThroughAnOrderByTheKeyboard) {
@@ -151,11 +128,6 @@ TEST_F(WindowTest, walksItsListsByArrowAndLoadsThemWhenTheyAreLeft) {
     worker.press(Qt::Key_Tab);
     EXPECT_EQ(desktop->form().cmb_referencia.position, -1);
     EXPECT_EQ(worker.text(u"txtcor"_s), u"AZUL"_s);
-    worker.click(u"CMBPRINTER"_s);
-    worker.press(Qt::Key_Down);
-    EXPECT_EQ(worker.focused(), u"CMBPRINTER"_s);
-    worker.press(Qt::Key_Return);
-    EXPECT_EQ(worker.focused(), u"cmd_printacessorio"_s);
 }
 
 TEST_F(WindowTest, changesAListByTheWheelOnlyWhileItHasTheFocus) {
@@ -233,14 +205,6 @@ TEST_F(WindowTest, opensItsOptionsByTheFrameAloneAndItsItemsAsTheyAreNow) {
     EXPECT_TRUE(settings().contains("arquivo=78")); // the order was loaded before its list opened
     EXPECT_TRUE(items.view()->isVisible());
     items.hidePopup();
-}
-
-TEST_F(WindowTest, keepsTheTotalsWhenTheyOverflow) {
-    loadOrder();
-    worker.type(u"txtnumero(0)"_s, u"999999"_s);
-    worker.press(Qt::Key_Return);
-    EXPECT_EQ(worker.text(u"TXTPARES"_s), u"3"_s);
-    EXPECT_FALSE(desktop->exitCode());
 }
 
 TEST_F(WindowTest, keepsAJobOpenBehindAnErrorUntilTheNextOneEndsIt) {
