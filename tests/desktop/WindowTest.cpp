@@ -162,8 +162,9 @@ TEST_F(WindowTest, filtersKeysAndComposedTexts) {
     worker.click(u"txtnumero(0)"_s);
     worker.click(u"txtnumero(1)"_s);
     EXPECT_EQ(worker.widget<QLineEdit>(u"txtnumero(1)"_s).selectedText(), u"2"_s);
+    worker.click(u"txtbandeira"_s);
     worker.pressMnemonic(Qt::Key_X); // of no command
-    EXPECT_EQ(worker.text(u"txtnumero(1)"_s), u"2"_s);
+    EXPECT_EQ(worker.text(u"txtbandeira"_s), u"BK"_s);
 }
 
 TEST_F(WindowTest, takesTheTextsOfAnOrderAsTheyStand) {
