@@ -1,6 +1,7 @@
 #include "desktop/DialogTable.h"
 
 #include "desktop/DialogWindow.h"
+#include "desktop/NamedWidgets.h"
 #include "desktop/QtText.h"
 #include "margins/Margens.h"
 #include "workbench/FrmPadrao.h"
@@ -85,8 +86,7 @@ class Table {
 
     // A field with its caption, which may be missing.
     FieldRow& addField(const char* name, TextField& field) {
-        auto* const caption =
-            window_.findChild<QLabel*>(QString::fromLatin1(name) + QStringLiteral("_caption"));
+        QLabel* const caption = captionOf(QString::fromLatin1(name), window_);
         rows_.push_back(mirrored(widget<QLineEdit>(name), caption, field));
         return rows_.back();
     }
@@ -106,9 +106,7 @@ class Table {
   private:
     template <typename Widget>
     Widget& widget(const char* name) const {
-        auto* const found = window_.findChild<Widget*>(QLatin1String(name));
-        Q_ASSERT_X(found != nullptr, "DialogTable", name);
-        return *found;
+        return widgetNamed<Widget>(QString::fromLatin1(name), window_);
     }
 
     static void show(Dialog& dialog, DialogWindow& window, QWidget& main) {

@@ -1,5 +1,6 @@
 #include "desktop/FieldTable.h"
 
+#include "desktop/NamedWidgets.h"
 #include "desktop/QtText.h"
 #include "workbench/Campos.h"
 #include "workbench/Dialogos.h"
@@ -111,7 +112,8 @@ class Table {
     void addCaptioned(const Binding<Field> (&bindings)[count]) {
         for (const auto& binding : bindings) {
             const QString name = QString::fromLatin1(binding.name);
-            add(mirrored(widget<Widget>(name), captionOf(name), form_.*binding.field),
+            add(mirrored(widgetNamed<Widget>(name, window_), captionOf(name, window_),
+                         form_.*binding.field),
                 binding.events);
         }
     }
@@ -119,17 +121,20 @@ class Table {
     template <typename Widget, typename Field, std::size_t count>
     void addPlain(const Binding<Field> (&bindings)[count]) {
         for (const auto& binding : bindings) {
-            add(mirrored(widget<Widget>(QString::fromLatin1(binding.name)), form_.*binding.field),
-                binding.events);
+            const QString name = QString::fromLatin1(binding.name);
+            add(mirrored(widgetNamed<Widget>(name, window_), form_.*binding.field), binding.events);
         }
     }
 
     void addSlots() {
         for (std::size_t i = 0; i < total_slots; ++i) {
             const QString index = QStringLiteral("(%1)").arg(i);
-            add(mirrored(widget<QLabel>(QStringLiteral("Label7") + index), form_.Label7[i]), {});
-            FieldRow row = mirrored(widget<QLineEdit>(QStringLiteral("txtnumero") + index), nullptr,
-                                    form_.txtnumero[i]);
+            add(mirrored(widgetNamed<QLabel>(QStringLiteral("Label7") + index, window_),
+                         form_.Label7[i]),
+                {});
+            FieldRow row =
+                mirrored(widgetNamed<QLineEdit>(QStringLiteral("txtnumero") + index, window_),
+                         nullptr, form_.txtnumero[i]);
             row.enter = [&form = form_, i] { txtnumero_enter(form, i); };
             row.key = [&form = form_, i](KeyCode key) { return txtnumero_key(form, i, key); };
             row.leave = [&form = form_, i] { txtnumero_leave(form, i); };
@@ -140,17 +145,6 @@ class Table {
     std::vector<FieldRow> taken() { return std::move(rows_); }
 
   private:
-    template <typename Widget>
-    Widget& widget(const QString& name) {
-        auto* const found = window_.findChild<Widget*>(name);
-        Q_ASSERT_X(found != nullptr, "fieldTable", qPrintable(name));
-        return *found;
-    }
-
-    QLabel* captionOf(const QString& name) {
-        return window_.findChild<QLabel*>(name + QStringLiteral("_caption"));
-    }
-
     std::function<void()> bound(Handler handler) {
         if (handler == nullptr) {
             return {};
