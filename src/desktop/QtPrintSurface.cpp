@@ -132,9 +132,9 @@ void QtPrintSurface::EndDoc() {
         job->send();
         return;
     }
-    job_written_({});
-    job_written_(
-        writeJobFile(folder_, clock_(), [&job](const QString& path) { job->write(path); }));
+    QString written; // nothing where it fails
+    const auto told = qScopeGuard([this, &written] { job_written_(written); });
+    written = writeJobFile(folder_, clock_(), [&job](const QString& path) { job->write(path); });
 }
 
 std::size_t QtPrintSurface::FontCount() const {

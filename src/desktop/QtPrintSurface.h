@@ -33,8 +33,8 @@ class QtPrintSurface final : public PrintSurface {
     QtPrintSurface(const QtPrinters& printers, const QString& folder,
                    Clock clock = QDateTime::currentDateTime);
 
-    /// What is called with the path of each file that the built-in device has written, and with
-    /// none before it is.
+    /// What is called behind each job of the built-in device: with the path of its file, or with
+    /// none where it could not be written.
     void onJobWritten(JobWritten told) { job_written_ = std::move(told); }
     /// Forgets the open job, if there is one: nothing of it is printed.
     void dropJob() { job_.reset(); }

@@ -91,7 +91,9 @@ TEST_F(PrintSurfaceTest, writesAFileOfItsOwnForEachJobButNoneForEmptyDroppedAndF
     surface.dropJob();
     surface.EndDoc();
     print(1, 1, u"A");
+    written = u"the job before"_s;
     onFullDisk([this] { EXPECT_THROW(surface.EndDoc(), Failure); });
+    EXPECT_TRUE(written.isEmpty()) << "it must be told";
     EXPECT_TRUE(finished().isEmpty());
     EXPECT_TRUE(files().isEmpty());
     for (int job = 1; job <= 3; ++job) {
