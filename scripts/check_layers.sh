@@ -12,10 +12,9 @@ if [ ! -d "$sources" ]; then
 fi
 cd "$sources"
 
-# From bottom to top. The header of the Workbench's fields is a layer of its own, since all that
-# stands above the settings reads and writes those fields.
-layers="base platform support barcodes config workbench/FrmPadrao.h
-        orders labels channel margins workbench desktop"
+# From bottom to top.
+layers="base platform model support barcodes config orders labels channel margins workbench
+        desktop/machine desktop/printing desktop/windows desktop"
 
 # Every include, as "./folder/file:line:text". /dev/null keeps grep content in an empty tree.
 includes=$(find . -type f \( -name '*.h' -o -name '*.h.in' -o -name '*.hpp' -o -name '*.cpp' \) \
@@ -31,9 +30,11 @@ awk -v layers="$layers" '
         for (i = 1; i <= count; i++)
             rank[names[i]] = i
     }
-    function layer(path) {
-        if (path in rank)
-            return path
+    # The folder of a file: the longest one that has a rank, else the first part of its path.
+    function layer(path, parent) {
+        for (parent = path; sub("/[^/]*$", "", parent);)
+            if (parent in rank)
+                return parent
         sub("/.*", "", path)
         return path
     }
@@ -56,7 +57,7 @@ awk -v layers="$layers" '
             offence("stands in no known folder")
             next
         }
-        if (included ~ /^(Q|q[a-z0-9]+\.h)/ && own != "desktop") {
+        if (included ~ /^(Q|q[a-z0-9]+\.h)/ && own !~ /^desktop/) {
             offence("includes " included " of Qt, which only desktop may")
             next
         }

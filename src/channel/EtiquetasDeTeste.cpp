@@ -4,7 +4,7 @@
 #include "base/Numbers.h"
 #include "channel/MargensLinguagem.h"
 #include "channel/Zpl.h"
-#include "workbench/FrmPadrao.h"
+#include "model/FrmPadrao.h"
 
 #include <array>
 
@@ -72,7 +72,7 @@ void writeBoxFront(Programa& programa, TextView x, TextView y, TextView codigo) 
         skip([&] {
             const Text text =
                 zplField(place(moved(x, line.x), moved(y, line.y)), line.command, line.data);
-            programa.push_back(line.quotes ? com_aspas(text) : text);
+            programa.push_back(line.quotes ? withQuotes(text) : text);
         });
     }
 }

@@ -2,7 +2,7 @@
 
 #include "channel/ChavesMargem.h"
 #include "config/Settings.h"
-#include "workbench/FrmPadrao.h"
+#include "model/FrmPadrao.h"
 
 #include <array>
 #include <optional>
@@ -48,10 +48,10 @@ struct Keys {
 
 // The value of the key, its default where it is blank or where there is no settings file.
 Text readMargin(const Files& files, const ChaveMargem& margem) {
-    const Text ini = caminho_ini(files);
+    const Text ini = settingsPath(files);
     Text value;
     if (files.fileExists(ini)) {
-        value = LeIni(files, ini, secao::margens, margem.chave, {});
+        value = LeIni(files, ini, ini_section::margens, margem.chave, {});
     }
     return isBlank(value) ? Text(margem.padrao) : value;
 }

@@ -5,8 +5,8 @@
 #include "channel/ChavesMargem.h"
 #include "channel/EtiquetasDeTeste.h"
 #include "config/Settings.h"
+#include "model/FrmPadrao.h"
 #include "support/Module1.h"
-#include "workbench/FrmPadrao.h"
 
 #include <span>
 
@@ -106,12 +106,12 @@ void resetFields(MargensLinguagem& dialogo) {
 }
 
 void readStored(const Files& files, MargensLinguagem& dialogo) {
-    const Text ini = caminho_ini(files);
+    const Text ini = settingsPath(files);
     if (!files.fileExists(ini)) {
         return;
     }
     const auto read = [&](const ChaveMargem& margem) {
-        return LeIni(files, ini, secao::margens, margem.chave, {});
+        return LeIni(files, ini, ini_section::margens, margem.chave, {});
     };
     const ModeloDeMargens& modelo = dialogo.modelo;
     for (std::size_t i = 0; i < dialogo.txtmargem1.size(); ++i) {
@@ -187,10 +187,10 @@ void MargensLinguagem_load(const FrmPadrao& form, MargensLinguagem& dialogo) {
 
 void MargensLinguagem_cmd_gravar(FrmPadrao& form, MargensLinguagem& dialogo) {
     Files& files = form.platform.files;
-    const Text ini = caminho_ini(files);
+    const Text ini = settingsPath(files);
     const ModeloDeMargens& modelo = dialogo.modelo;
     const auto store = [&](const ChaveMargem& margem, TextView value) {
-        GravaIni(files, secao::margens, margem.chave, value, ini);
+        GravaIni(files, ini_section::margens, margem.chave, value, ini);
     };
     for (std::size_t i = 0; i < modelo.colunas.size(); ++i) {
         const Text& typed = dialogo.txtmargem1[i].text;
@@ -210,7 +210,7 @@ void MargensLinguagem_cmd_teste(FrmPadrao& form, MargensLinguagem& dialogo) {
     if (modelo.ordem == OrdemDasColunas::crescente) {
         growToTheRight(dialogo);
     }
-    envia_programa(form, modelo.teste(form, dialogo), modelo.fim);
+    sendProgram(form, modelo.teste(form, dialogo), modelo.fim);
 }
 
 void MargensLinguagem_cmd_exit(MargensLinguagem& dialogo) {

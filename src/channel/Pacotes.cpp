@@ -4,9 +4,9 @@
 #include "base/Numbers.h"
 #include "channel/Transporte.h"
 #include "channel/Zpl.h"
+#include "model/FrmPadrao.h"
 #include "platform/Focus.h"
 #include "platform/MessageBoxes.h"
-#include "workbench/FrmPadrao.h"
 
 #include <algorithm>
 #include <array>
@@ -93,7 +93,7 @@ std::array<PackLine, 8> packLines(const FrmPadrao& form, const StripSide& side) 
 void writePack(const FrmPadrao& form, const StripSide& side, Programa& programa) {
     for (const PackLine& line : packLines(form, side)) {
         const Text place = Text(line.x).append(u", ").append(line.y);
-        programa.push_back(com_aspas(zplField(place, line.command, line.data)));
+        programa.push_back(withQuotes(zplField(place, line.command, line.data)));
     }
 }
 
@@ -129,7 +129,7 @@ void Imprime_OcultaNova(FrmPadrao& form, const CheckBox& cabecalho) {
         writeHeader(form, programa);
     }
     writeCodes(form, programa);
-    envia_programa(form, programa, FimDoComando::com_avanco);
+    sendProgram(form, programa, FimDoComando::com_avanco);
 }
 
 void Imprime_Pacote(FrmPadrao& form) {
@@ -139,7 +139,7 @@ void Imprime_Pacote(FrmPadrao& form) {
     }
     std::int16_t pacotes = 0;
     skip([&] { pacotes = toInteger16(quantityField(form).text); });
-    envia_programa(form, packProgram(form, pacotes), FimDoComando::simples);
+    sendProgram(form, packProgram(form, pacotes), FimDoComando::simples);
 }
 
 Text RET_CODCERTO(TextView codigo) {

@@ -2,9 +2,9 @@
 
 #include "base/CodePage.h"
 #include "base/Failure.h"
+#include "model/FrmPadrao.h"
 #include "platform/CommandStart.h"
 #include "platform/Files.h"
-#include "workbench/FrmPadrao.h"
 
 namespace etiquetas {
 
@@ -46,7 +46,7 @@ void writeJob(Files& files, const Text& path, const Programa& programa) {
 
 } // namespace
 
-void envia_programa(FrmPadrao& form, const Programa& programa, FimDoComando end) {
+void sendProgram(FrmPadrao& form, const Programa& programa, FimDoComando end) {
     Files& files = form.platform.files;
     const Text folder = files.programFolder();
     const Text command = joined(files, folder, u"IMPRIMIR.BAT");

@@ -22,6 +22,6 @@ enum class FimDoComando : std::uint8_t { simples, com_avanco };
 /// in the program's folder. The job before is never left in place of one that can't be written. A
 /// command file that is there stays as it is, with the port of the day it was written. A step that
 /// fails is passed over, and nobody is told.
-void envia_programa(FrmPadrao& form, const Programa& programa, FimDoComando end);
+void sendProgram(FrmPadrao& form, const Programa& programa, FimDoComando end);
 
 } // namespace etiquetas

@@ -6,7 +6,7 @@ Text zplField(TextView place, TextView command, TextView data) {
     return Text(u"^FO").append(place).append(command).append(data).append(u"^FS");
 }
 
-Text com_aspas(TextView line) {
+Text withQuotes(TextView line) {
     return replaceAll(line, u".", u"\"");
 }
 

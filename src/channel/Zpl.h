@@ -10,6 +10,6 @@ namespace etiquetas {
 [[nodiscard]] Text zplField(TextView place, TextView command, TextView data);
 
 /// The line with each point turned into a double quote.
-[[nodiscard]] Text com_aspas(TextView line);
+[[nodiscard]] Text withQuotes(TextView line);
 
 } // namespace etiquetas

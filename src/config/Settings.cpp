@@ -35,7 +35,7 @@ std::string bytesOf(const Files& files, TextView file) {
 
 } // namespace
 
-Text caminho_ini(const Files& files) {
+Text settingsPath(const Files& files) {
     const Text folder = files.programFolder();
     const auto found = findFile(files, folder, nome_ini);
     return found ? *found : joined(files, folder, nome_ini);
@@ -57,7 +57,7 @@ void GravaIni(Files& files, TextView section, TextView key, TextView value, Text
     });
 }
 
-void apaga_comando(Files& files) {
+void deleteCommandFile(Files& files) {
     const Text comando = joined(files, files.programFolder(), u"IMPRIMIR.BAT");
     skip([&] {
         if (files.fileExists(comando)) {
@@ -67,16 +67,16 @@ void apaga_comando(Files& files) {
 }
 
 void gera_ini_base(Files& files, TextView /*file*/) {
-    const Text file = caminho_ini(files);
+    const Text file = settingsPath(files);
     const auto grava = [&](TextView chave, TextView valor) {
-        GravaIni(files, secao::impressora, chave, valor, file);
+        GravaIni(files, ini_section::impressora, chave, valor, file);
     };
     for (const Ajuste& ajuste : ajustes_da_impressora) {
         grava(ajuste.chave, ajuste.valor);
     }
     grava(u"Path", files.programFolder());
     grava(u"TipoOculta", u"3");
-    apaga_comando(files);
+    deleteCommandFile(files);
 }
 
 } // namespace etiquetas

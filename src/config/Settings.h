@@ -6,15 +6,15 @@
 namespace etiquetas {
 
 /// Sections of the settings file.
-namespace secao {
+namespace ini_section {
 inline constexpr TextView config = u"Config";
 inline constexpr TextView impressora = u"Impressora";
 inline constexpr TextView margens = u"MargemOcultaZebra";
-} // namespace secao
+} // namespace ini_section
 
 /// Path of the settings file "Varesko.ini" in the program's folder; a file that is there keeps the
 /// case of its name. Formed anew by every reader and writer just before use.
-[[nodiscard]] Text caminho_ini(const Files& files);
+[[nodiscard]] Text settingsPath(const Files& files);
 
 /// The value of one key, whole whatever its length, read as code page 1252; the default where
 /// file, section or key is missing.
@@ -27,7 +27,7 @@ void GravaIni(Files& files, TextView section, TextView key, TextView value, Text
 
 /// Deletes the command file "IMPRIMIR.BAT" of the direct printer channel from the program's folder,
 /// where there is one; one that can't be deleted stays.
-void apaga_comando(Files& files);
+void deleteCommandFile(Files& files);
 
 /// Writes the settings of a new installation and deletes the command file that an earlier one may
 /// have left. The path is formed anew, so that the argument is not looked at.

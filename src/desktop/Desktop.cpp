@@ -1,8 +1,8 @@
 #include "desktop/Desktop.h"
 
-#include "desktop/DialogTable.h"
-#include "desktop/FieldTable.h"
-#include "desktop/QtText.h"
+#include "desktop/machine/QtText.h"
+#include "desktop/windows/DialogTable.h"
+#include "desktop/windows/FieldTable.h"
 #include "workbench/Inicio.h"
 
 #include <QCoreApplication>

@@ -1,17 +1,19 @@
 #pragma once
 
-#include "desktop/DialogWindow.h"
-#include "desktop/EventBridge.h"
-#include "desktop/QtCommandStart.h"
-#include "desktop/QtDesk.h"
-#include "desktop/QtFiles.h"
-#include "desktop/QtFolderPicker.h"
-#include "desktop/QtMessageBoxes.h"
-#include "desktop/QtPictures.h"
-#include "desktop/QtPrintSurface.h"
-#include "desktop/QtPrinters.h"
-#include "desktop/WorkbenchWindow.h"
-#include "workbench/FrmPadrao.h"
+#include "desktop/machine/QtCommandStart.h"
+#include "desktop/machine/QtFiles.h"
+#include "desktop/machine/QtPictures.h"
+#include "desktop/machine/QtPrinters.h"
+#include "desktop/printing/QtPrintSurface.h"
+#include "desktop/windows/DialogWindow.h"
+#include "desktop/windows/EventBridge.h"
+#include "desktop/windows/QtFocus.h"
+#include "desktop/windows/QtFolderPicker.h"
+#include "desktop/windows/QtMessageBoxes.h"
+#include "desktop/windows/QtPointer.h"
+#include "desktop/windows/QtProcess.h"
+#include "desktop/windows/WorkbenchWindow.h"
+#include "model/FrmPadrao.h"
 
 #include <QString>
 

@@ -1,10 +1,10 @@
 #include "labels/Acessorio.h"
 
 #include "labels/LabelLayout.h"
-#include "labels/LabelStamps.h"
+#include "labels/LabelPictures.h"
 #include "labels/LabelStrip.h"
 #include "labels/PriceBlock.h"
-#include "workbench/FrmPadrao.h"
+#include "model/FrmPadrao.h"
 
 #include <array>
 
@@ -128,8 +128,8 @@ void drawBody(FrmPadrao& form, const AccessoryLabel& label, const Point& origin)
         print(body.line2, trimmed(label.lines[1]));
     }
     surface.FontBold(true);
-    desenha_barras(form);
-    carimba_barras(form, at(origin, body.bars));
+    drawBars(form);
+    stampBars(form, at(origin, body.bars));
     print(body.code, label.codigo);
     print(body.banner, trimmed(label.bandeira));
     print(body.week, trimmed(label.semana));
@@ -138,7 +138,7 @@ void drawBody(FrmPadrao& form, const AccessoryLabel& label, const Point& origin)
 }
 
 void drawEnd(PrintSurface& surface, const AccessoryLabel& label, const Point& origin) {
-    const EndLayout& end = tem_preco(label.preco) ? end_with_price : end_without_price;
+    const EndLayout& end = hasPrice(label.preco) ? end_with_price : end_without_price;
     printItem(surface, end.promotion, origin, label.promocao);
     printItem(surface, end.ref3, origin, right(label.codigo, ref3_length));
 }
@@ -148,13 +148,13 @@ void drawLabel(FrmPadrao& form, const AccessoryLabel& label) {
     const Point origin = nextOrigin(form);
     surface.FontSize(base_points);
     ++form.coluna_etiqueta;
-    carimba_logo(form, label.flag, logo, origin);
-    if (tem_preco(label.preco)) {
-        imprime_preco(surface, price, origin, label.preco);
+    stampLogo(form, label.flag, logo, origin);
+    if (hasPrice(label.preco)) {
+        printPrice(surface, price, origin, label.preco);
     }
     drawBody(form, label, origin);
     drawEnd(surface, label, origin);
-    fecha_etiqueta(form);
+    endLabel(form);
 }
 
 } // namespace

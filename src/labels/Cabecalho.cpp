@@ -1,7 +1,7 @@
 #include "labels/Cabecalho.h"
 
 #include "labels/LabelLayout.h"
-#include "workbench/FrmPadrao.h"
+#include "model/FrmPadrao.h"
 
 namespace etiquetas {
 
@@ -11,7 +11,7 @@ constexpr TextView rotulo = u"Pedido: ";
 // From the top of the page; no top margin is added.
 constexpr float altura_mm = 6;
 
-void cabecalho_oculta(FrmPadrao& form) {
+void drawHiddenHeader(FrmPadrao& form) {
     PrintSurface& surface = form.platform.surface;
     useFont(surface, {face::franklin_medium, true, 10});
     const Text pedido = Text(rotulo) + form.txtarquivo.text;
@@ -20,7 +20,7 @@ void cabecalho_oculta(FrmPadrao& form) {
 }
 
 // Word and number are two texts here, 3 mm apart: the number overprints the end of the word.
-void cabecalho_fc(FrmPadrao& form) {
+void drawBoxFrontHeader(FrmPadrao& form) {
     PrintSurface& surface = form.platform.surface;
     useFont(surface, {face::franklin_medium, true, 12});
     for (const float margem : {form.Mx4045_1, form.Mx4045_2}) {
@@ -34,9 +34,9 @@ void cabecalho_fc(FrmPadrao& form) {
 void Imprime_CabecAlho(FrmPadrao& form, TextView tipo) {
     const Text kind = upperCase(tipo);
     if (kind == u"OCULTA") {
-        cabecalho_oculta(form);
+        drawHiddenHeader(form);
     } else if (kind == u"FC") {
-        cabecalho_fc(form);
+        drawBoxFrontHeader(form);
     } else {
         return;
     }

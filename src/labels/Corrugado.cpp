@@ -3,8 +3,8 @@
 #include "barcodes/Code39.h"
 #include "base/Numbers.h"
 #include "labels/LabelLayout.h"
-#include "labels/LabelStamps.h"
-#include "workbench/FrmPadrao.h"
+#include "labels/LabelPictures.h"
+#include "model/FrmPadrao.h"
 
 #include <array>
 #include <variant>
@@ -90,7 +90,7 @@ void drawBars(FrmPadrao& form, const PackLabel& label) {
     Text code(form.txtean.visible ? barra : left(barra, without_ean_length));
     DesenhaCode39(form.Picture1, escala, code, false, false);
     form.platform.surface.ScaleMode(ScaleMode::millimetres);
-    carimba_barras(form, at(textOrigin(form), box));
+    stampBars(form, at(textOrigin(form), box));
 }
 
 void drawDescription(FrmPadrao& form, const PackLabel& label) {
@@ -230,7 +230,7 @@ Text volumeText(const FrmPadrao& form, std::int32_t number, std::int16_t ate) {
 }
 
 void drawLabel(FrmPadrao& form, const PackLabel& label) {
-    carimba_logo(form, label.flag, logo, ruleOrigin(form));
+    stampLogo(form, label.flag, logo, ruleOrigin(form));
     for (const Item& item : layout) {
         std::visit(ItemDrawer{form, label}, item);
     }

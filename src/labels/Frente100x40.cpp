@@ -1,9 +1,9 @@
 #include "labels/Frente100x40.h"
 
 #include "labels/LabelLayout.h"
-#include "labels/LabelStamps.h"
+#include "labels/LabelPictures.h"
 #include "labels/PriceBlock.h"
-#include "workbench/FrmPadrao.h"
+#include "model/FrmPadrao.h"
 
 #include <array>
 
@@ -97,9 +97,9 @@ void drawSize(PrintSurface& surface, const PhotographLabel& label, const Point& 
 
 void drawCodes(FrmPadrao& form, const PhotographLabel& label, const Point& origin) {
     PrintSurface& surface = form.platform.surface;
-    desenha_barras(form, label.barra);
-    carimba_barras(form, at(origin, item_bars));
-    if (tem_preco(label.preco)) {
+    drawBars(form, label.barra);
+    stampBars(form, at(origin, item_bars));
+    if (hasPrice(label.preco)) {
         print(surface, item_price, origin, label.preco);
     }
     print(surface, item_code, origin, Text(u"COD: ").append(label.codigo));
@@ -111,7 +111,7 @@ void drawCodes(FrmPadrao& form, const PhotographLabel& label, const Point& origi
 void drawLabel(FrmPadrao& form, const PhotographLabel& label) {
     PrintSurface& surface = form.platform.surface;
     const Point origin{form.PackLinhaX, form.PackLinhaY};
-    carimba_logo(form, label.flag, logo, origin);
+    stampLogo(form, label.flag, logo, origin);
     drawPhotograph(form, origin);
     print(surface, item_line1, origin, label.lines[0]);
     print(surface, item_line2, origin, label.lines[1]);

@@ -1,10 +1,10 @@
 #include "labels/FrenteCaixa.h"
 
 #include "labels/LabelLayout.h"
-#include "labels/LabelStamps.h"
+#include "labels/LabelPictures.h"
 #include "labels/LabelStrip.h"
 #include "labels/PriceBlock.h"
-#include "workbench/FrmPadrao.h"
+#include "model/FrmPadrao.h"
 
 #include <array>
 
@@ -119,10 +119,10 @@ void drawWeekAndPromotion(PrintSurface& surface, const BoxFrontLabel& label, con
 }
 
 void drawCodeAndPrice(PrintSurface& surface, const BoxFrontLabel& label, const Point& origin) {
-    const bool has_price = tem_preco(label.preco);
+    const bool has_price = hasPrice(label.preco);
     printItem(surface, has_price ? item_ref3_with_price : item_ref3_alone, origin, label.ref3);
     if (has_price) {
-        imprime_preco(surface, price, origin, label.preco);
+        printPrice(surface, price, origin, label.preco);
     }
     printItem(surface, item_banner, origin, label.bandeira);
 }
@@ -169,14 +169,14 @@ void drawLabel(FrmPadrao& form, const BoxFrontLabel& label) {
     const Point origin = nextOrigin(form);
     beginLabel(form, label);
     drawWeekAndPromotion(surface, label, origin);
-    desenha_ean(form);
-    carimba_barras(form, at(origin, item_bars));
-    carimba_logo(form, label.flag, logo, origin);
+    drawEan(form);
+    stampBars(form, at(origin, item_bars));
+    stampLogo(form, label.flag, logo, origin);
     drawCodeAndPrice(surface, label, origin);
     drawDescription(surface, label, origin);
     drawSize(surface, label, origin);
     drawDigits(form, origin);
-    fecha_etiqueta(form);
+    endLabel(form);
 }
 
 } // namespace

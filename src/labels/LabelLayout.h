@@ -95,8 +95,8 @@ inline void printItem(PrintSurface& surface, const TextItem& item, const Point& 
     printAt(surface, at(origin, item.offset), text);
 }
 
-/// Stamps a picture on a box of the surface; `source_width` pixels of its width, from the left,
-/// where that is given.
+/// Stamps a picture on a box of the surface; `source_width` pixels of its width, from the
+/// left, where that is given.
 inline void stamp(PrintSurface& surface, const Picture& picture, const Box& box,
                   std::optional<float> source_width = {}) {
     surface.PaintPicture(picture, box.corner.x, box.corner.y, box.width, box.height,

@@ -1,11 +1,11 @@
 #include "labels/LabelStrip.h"
 
+#include "model/FrmPadrao.h"
 #include "platform/PrintSurface.h"
-#include "workbench/FrmPadrao.h"
 
 namespace etiquetas {
 
-void fecha_etiqueta(FrmPadrao& form) {
+void endLabel(FrmPadrao& form) {
     constexpr std::int16_t beyond_last_column = 3;
     if (form.coluna_etiqueta >= beyond_last_column) {
         form.coluna_etiqueta = 1;

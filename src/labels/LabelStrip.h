@@ -6,6 +6,6 @@ struct FrmPadrao;
 
 /// Ends a label of a strip of two: behind the second column the strip's page ends, and column 1 is
 /// next.
-void fecha_etiqueta(FrmPadrao& form);
+void endLabel(FrmPadrao& form);
 
 } // namespace etiquetas

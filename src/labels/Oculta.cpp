@@ -2,9 +2,9 @@
 
 #include "base/Numbers.h"
 #include "labels/LabelLayout.h"
-#include "labels/LabelStamps.h"
+#include "labels/LabelPictures.h"
 #include "labels/LabelStrip.h"
-#include "workbench/FrmPadrao.h"
+#include "model/FrmPadrao.h"
 
 #include <array>
 
@@ -99,8 +99,8 @@ void drawCodes(FrmPadrao& form, const HiddenLabel& label, const Point& origin) {
     PrintSurface& surface = form.platform.surface;
     printItem(surface, item_ref3, origin, label.ref3);
     surface.FontBold(false);
-    desenha_barras(form, label.barra);
-    carimba_barras(form, at(origin, item_bars));
+    drawBars(form, label.barra);
+    stampBars(form, at(origin, item_bars));
     printItem(surface, item_master, origin, label.master);
     printItem(surface, item_digits_left, origin, mid(form.txtbarra.text, 1, 6));
     printItem(surface, item_digits_right, origin, mid(form.txtbarra.text, 7, 7));
@@ -132,7 +132,7 @@ void drawLabel(FrmPadrao& form, const HiddenLabel& label) {
     if (label.flag == u"L" || !isBlank(label.numero)) {
         drawLines(surface, label, origin);
     }
-    fecha_etiqueta(form);
+    endLabel(form);
 }
 
 } // namespace

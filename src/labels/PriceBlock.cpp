@@ -27,12 +27,12 @@ void printBefore(PrintSurface& surface, const PriceItem& item, const Point& orig
 
 } // namespace
 
-bool tem_preco(TextView preco) {
+bool hasPrice(TextView preco) {
     return trimmed(preco) != sem_preco;
 }
 
-void imprime_preco(PrintSurface& surface, const PriceLayout& layout, const Point& origin,
-                   TextView preco) {
+void printPrice(PrintSurface& surface, const PriceLayout& layout, const Point& origin,
+                TextView preco) {
     constexpr TextView currency = u"R$";
     constexpr TextView terms = u"À VISTA";
     // Without a comma the whole part is empty.

@@ -9,7 +9,7 @@ namespace etiquetas {
 inline constexpr TextView sem_preco = u"0,00";
 
 /// False where the price, trimmed, is "0,00".
-[[nodiscard]] bool tem_preco(TextView preco);
+[[nodiscard]] bool hasPrice(TextView preco);
 
 /// A text of the price block. It ends at `edge` from the label's origin, less the widths of the
 /// texts that stand right of it, plus `shift`; its top is at `y`.
@@ -32,7 +32,7 @@ struct PriceLayout {
 };
 
 /// Prints the price block of a layout; the price has a comma and two digits behind it.
-void imprime_preco(PrintSurface& surface, const PriceLayout& layout, const Point& origin,
-                   TextView preco);
+void printPrice(PrintSurface& surface, const PriceLayout& layout, const Point& origin,
+                TextView preco);
 
 } // namespace etiquetas

@@ -6,13 +6,13 @@
 #include "labels/Acessorio.h"
 #include "labels/Corrugado.h"
 #include "labels/FrenteCaixa.h"
-#include "labels/LabelJob.h"
+#include "labels/JobSetup.h"
 #include "labels/Oculta.h"
+#include "model/FrmPadrao.h"
 #include "orders/Complemento.h"
 #include "platform/Focus.h"
 #include "platform/MessageBoxes.h"
 #include "support/Module1.h"
-#include "workbench/FrmPadrao.h"
 
 #include <algorithm>
 #include <array>
@@ -97,7 +97,7 @@ void drawBoxFront(FrmPadrao& form) {
     if (!slot) {
         return;
     }
-    completa_preco(form);
+    fillMissingPrice(form);
     Text descricao(trimmed(form.txtdescricao.text));
     skip([&] {
         Imprime_40_45_2(form, form.marca_logo, descricao, trimmed(form.txtcor.text), ref3(form),
@@ -131,12 +131,12 @@ bool beginBoxFronts(FrmPadrao& form) {
     if (form.cmbtipo.text != tipo::frente_de_caixa) {
         return false;
     }
-    if (!tem_logos(form)) {
-        avisa(form.platform.messages, aviso::sem_logotipo);
+    if (!hasLogos(form)) {
+        tellOperator(form.platform.messages, notice::sem_logotipo);
         return false;
     }
     if (isBlank(form.txtdescricao.text)) {
-        avisa(form.platform.messages, aviso::sem_item); // told only: the test goes on
+        tellOperator(form.platform.messages, notice::sem_item); // told only: the test goes on
     }
     return true;
 }
@@ -180,12 +180,12 @@ TextView typedOrDefault(const MargensDialog& dialog, const Entry& entry) {
 
 void readFields(const FrmPadrao& form, MargensDialog& dialog, std::span<const Entry> entries) {
     const Files& files = form.platform.files;
-    const Text file = caminho_ini(files);
+    const Text file = settingsPath(files);
     if (!files.fileExists(file)) {
         return;
     }
     for (const Entry& entry : entries) {
-        (dialog.*entry.field).text = LeIni(files, file, secao::margens, entry.margin.key, {});
+        (dialog.*entry.field).text = LeIni(files, file, ini_section::margens, entry.margin.key, {});
     }
 }
 
@@ -213,7 +213,7 @@ bool marginsAreThere(FrmPadrao& form, const MargensDialog& dialog, std::span<con
     if (blank == entries.end()) {
         return true;
     }
-    avisa(form.platform.messages, u"Informe a Margem...");
+    tellOperator(form.platform.messages, u"Informe a Margem...");
     skip([&] { form.platform.focus.moveTo(dialog.*blank->field); });
     return false;
 }
@@ -254,13 +254,13 @@ KeyCode margem_key(KeyCode key) {
 
 void cmd_gravar_click(FrmPadrao& form, MargensDialog& dialog) {
     Files& files = form.platform.files;
-    const Text file = caminho_ini(files);
+    const Text file = settingsPath(files);
     for (const Entry& entry : calibrationOf(form, dialog).entries) {
         const Text margin(typedOrDefault(dialog, entry));
         if (entry.default_label == nullptr) {
             (dialog.*entry.field).text = margin; // a default without a caption is shown here
         }
-        GravaIni(files, secao::margens, entry.margin.key, margin, file);
+        GravaIni(files, ini_section::margens, entry.margin.key, margin, file);
     }
     dialog.open = false;
 }
@@ -270,14 +270,14 @@ void cmd_teste_click(FrmPadrao& form, MargensDialog& dialog) {
     if (!marginsAreThere(form, dialog, calibration.entries) || !calibration.begin(form)) {
         return;
     }
-    seleciona_escolhida(form);
-    usa_milimetros(form);
+    selectChosenPrinter(form);
+    useMillimetres(form);
     takeMargins(form, dialog, calibration.entries);
-    define_pagina(form, calibration.page);
-    usa_fonte(form);
-    escolhe_marca(form);
+    setPage(form, calibration.page);
+    useLabelFont(form);
+    chooseBanner(form);
     calibration.draw(form);
-    encerra_trabalho(form);
+    endJob(form);
 }
 
 void cmd_exit_click(FrmPadrao& /*form*/, MargensDialog& dialog) {

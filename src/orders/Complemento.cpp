@@ -2,10 +2,10 @@
 
 #include "base/Failure.h"
 #include "base/Numbers.h"
+#include "model/FrmPadrao.h"
 #include "orders/OrderFormat.h"
 #include "platform/Files.h"
 #include "platform/Pictures.h"
-#include "workbench/FrmPadrao.h"
 
 namespace etiquetas {
 

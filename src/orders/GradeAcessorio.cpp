@@ -1,8 +1,8 @@
 #include "orders/GradeAcessorio.h"
 
+#include "model/FrmPadrao.h"
 #include "orders/ItemSlots.h"
 #include "orders/OrderFormat.h"
-#include "workbench/FrmPadrao.h"
 
 #include <array>
 #include <optional>
@@ -74,11 +74,10 @@ class Filler {
             }
         }
         if (layout.fills_slots) {
-            achou_ =
-                preenche_grade(form_, line[accessory_field::size], line[accessory_field::quantity]);
+            achou_ = fillSlot(form_, line[accessory_field::size], line[accessory_field::quantity]);
         }
         if (!achou_) {
-            avisa_grade_cheia(form_);
+            tellSlotsAreFull(form_);
         }
         ++count_;
     }

@@ -1,8 +1,8 @@
 #include "orders/GradeCorrugado.h"
 
 #include "base/Numbers.h"
+#include "model/FrmPadrao.h"
 #include "orders/OrderFormat.h"
-#include "workbench/FrmPadrao.h"
 
 #include <array>
 #include <optional>

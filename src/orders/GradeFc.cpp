@@ -1,9 +1,9 @@
 #include "orders/GradeFc.h"
 
+#include "model/FrmPadrao.h"
 #include "orders/Complemento.h"
 #include "orders/ItemSlots.h"
 #include "orders/OrderFormat.h"
-#include "workbench/FrmPadrao.h"
 
 #include <array>
 #include <optional>
@@ -66,9 +66,9 @@ void fillFromLines(FrmPadrao& form, const ItemKey& item) {
         if (count == 0) {
             fillItemFields(form, line, *layout);
         }
-        const bool achou = preenche_grade(form, line[box_field::size], line[box_field::quantity]);
+        const bool achou = fillSlot(form, line[box_field::size], line[box_field::quantity]);
         if (!achou) {
-            avisa_grade_cheia(form);
+            tellSlotsAreFull(form);
         }
         ++count;
     }

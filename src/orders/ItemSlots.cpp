@@ -2,8 +2,8 @@
 
 #include "base/Failure.h"
 #include "base/Numbers.h"
+#include "model/FrmPadrao.h"
 #include "platform/MessageBoxes.h"
-#include "workbench/FrmPadrao.h"
 
 #include <algorithm>
 
@@ -44,7 +44,7 @@ void OCULTA_ITENS(FrmPadrao& form) {
     }
 }
 
-bool preenche_grade(FrmPadrao& form, TextView size, TextView quantity) {
+bool fillSlot(FrmPadrao& form, TextView size, TextView quantity) {
     auto* const free = std::find_if(form.Label7.begin(), form.Label7.end(),
                                     [](const Label& slot) { return isBlank(slot.caption); });
     if (free == form.Label7.end()) {
@@ -55,7 +55,7 @@ bool preenche_grade(FrmPadrao& form, TextView size, TextView quantity) {
     return true;
 }
 
-void avisa_grade_cheia(FrmPadrao& form) {
+void tellSlotsAreFull(FrmPadrao& form) {
     form.platform.messages.show(
         {.text = u"Erro ao Preencher Dados.. Contate a Varesko e comunique o Erro no Pedido " +
                  form.txtarquivo.text,

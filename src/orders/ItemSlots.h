@@ -15,10 +15,10 @@ void OCULTA_ITENS(FrmPadrao& form);
 
 /// Gives a size and its quantity the first free slot; false when all are taken. A blank size leaves
 /// its slot free.
-bool preenche_grade(FrmPadrao& form, TextView size, TextView quantity);
+bool fillSlot(FrmPadrao& form, TextView size, TextView quantity);
 
 /// Tells the operator that a size of the order found no slot.
-void avisa_grade_cheia(FrmPadrao& form);
+void tellSlotsAreFull(FrmPadrao& form);
 
 /// Shows and unlocks the filled size slots, adds `txtlote` to each quantity while the options panel
 /// shows, and totals them. Fails where a number does not convert or leaves 16 bits.

@@ -28,7 +28,7 @@ class MessageBoxes : public Interface {
 };
 
 /// Tells the operator something, in a box with one button. A box that fails is passed over.
-inline void avisa(MessageBoxes& messages, TextView text, Symbol symbol = Symbol::none) {
+inline void tellOperator(MessageBoxes& messages, TextView text, Symbol symbol = Symbol::none) {
     skip([&] { messages.show({.text = Text(text), .symbol = symbol}); });
 }
 

@@ -53,7 +53,7 @@ void VerificaFontes(const PrintSurface& surface, Pointer& pointer, MessageBoxes&
     const Text missing = missingNames(faces);
     skip([&] { pointer.normal(); });
     if (!isBlank(missing)) {
-        avisa(messages, u"Atenção: Instale as seguintes fontes: " + missing);
+        tellOperator(messages, u"Atenção: Instale as seguintes fontes: " + missing);
     }
 }
 

@@ -2,12 +2,12 @@
 
 #include "base/Failure.h"
 #include "base/Numbers.h"
+#include "model/FrmPadrao.h"
 #include "orders/GradeAcessorio.h"
 #include "orders/GradeCorrugado.h"
 #include "orders/GradeFc.h"
 #include "orders/ItemSlots.h"
 #include "platform/Focus.h"
-#include "workbench/FrmPadrao.h"
 #include "workbench/Pedido.h"
 
 namespace etiquetas {

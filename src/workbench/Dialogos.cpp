@@ -1,8 +1,8 @@
 #include "workbench/Dialogos.h"
 
 #include "margins/Margens.h"
+#include "model/FrmPadrao.h"
 #include "platform/MessageBoxes.h"
-#include "workbench/FrmPadrao.h"
 #include "workbench/FrmParametroImpressora.h"
 
 #include <array>
@@ -37,7 +37,7 @@ void openDialog(Dialog& dialog, Load&& load) {
 
 void cmd_calibra_click(FrmPadrao& form) {
     if (isBlank(form.cmb_referencia1.text) && isBlank(form.cmb_referencia.text)) {
-        avisa(form.platform.messages, u"Selecione um Pedido para realizar a Calibragem...");
+        tellOperator(form.platform.messages, u"Selecione um Pedido para realizar a Calibragem...");
         return;
     }
     for (const CalibratedKind& row : calibrated_kinds) {

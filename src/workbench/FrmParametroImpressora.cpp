@@ -2,9 +2,9 @@
 
 #include "base/Numbers.h"
 #include "config/Settings.h"
+#include "model/FrmPadrao.h"
 #include "platform/MessageBoxes.h"
 #include "support/Mod_Browse.h"
-#include "workbench/FrmPadrao.h"
 
 #include <algorithm>
 #include <array>
@@ -95,7 +95,7 @@ void chooseRow(ListField& list, TextView value) {
 
 void store(FrmPadrao& form, TextView key, TextView value) {
     Files& files = form.platform.files;
-    GravaIni(files, secao::impressora, key, value, caminho_ini(files));
+    GravaIni(files, ini_section::impressora, key, value, settingsPath(files));
 }
 
 void replaceMissingFolder(FrmPadrao& form) {
@@ -135,7 +135,7 @@ void storeFolder(FrmPadrao& form) {
     if (files.folderExists(folder)) {
         form.lblpath.caption = folder;
     } else {
-        avisa(form.platform.messages, u"O Local Padrão de busca do Arquivo é Inválido...");
+        tellOperator(form.platform.messages, u"O Local Padrão de busca do Arquivo é Inválido...");
         folder.clear();
         form.lblpath.caption = files.programFolder();
     }
@@ -171,12 +171,14 @@ void FrmParametroImpressora_activate(FrmPadrao& form) {
 
 void load_parametros(FrmPadrao& form) {
     const Files& files = form.platform.files;
-    const Text file = caminho_ini(files);
+    const Text file = settingsPath(files);
     if (!files.fileExists(file)) {
         return;
     }
     ParametroDialog& dialog = form.FrmParametroImpressora;
-    const auto read = [&](TextView key) { return LeIni(files, file, secao::impressora, key, {}); };
+    const auto read = [&](TextView key) {
+        return LeIni(files, file, ini_section::impressora, key, {});
+    };
     selectOption(dialog, languages, read(u"Linguagem"), &ParametroDialog::optzpl);
     dialog.TXTPATH.text = read(u"Path");
     chooseRow(dialog.cmbserial, read(u"PortaSerial"));
@@ -205,7 +207,7 @@ void CMD_GETPATH_click(FrmPadrao& form) {
     const Text folder =
         BrowseFolder(form.platform.folders, u"Selecione o Local Padrão para Busca dos Arquivos");
     if (!form.platform.files.folderExists(folder)) {
-        avisa(form.platform.messages, u"O Local Selecionado é Inválido...");
+        tellOperator(form.platform.messages, u"O Local Selecionado é Inválido...");
         return;
     }
     TextField& field = form.FrmParametroImpressora.TXTPATH;
@@ -223,7 +225,7 @@ void cmd_grava_click(FrmPadrao& form) {
     storeFormat(form, u"TipoFrenteCaixa", box_front_formats, form.frentecaixa);
     ParametroDialog& dialog = form.FrmParametroImpressora;
     form.lblcompartilhamento.caption = dialog.txtnomecompartilhamento.text;
-    apaga_comando(form.platform.files);
+    deleteCommandFile(form.platform.files);
     dialog.open = false;
 }
 

@@ -1,11 +1,11 @@
 #include "workbench/Impressao.h"
 
 #include "base/Failure.h"
+#include "model/FrmPadrao.h"
 #include "orders/GradeAcessorio.h"
 #include "orders/GradeCorrugado.h"
 #include "orders/GradeFc.h"
 #include "orders/ItemSlots.h"
-#include "workbench/FrmPadrao.h"
 #include "workbench/ImpressaoRamos.h"
 #include "workbench/Inicio.h"
 
@@ -23,17 +23,17 @@ struct Branch {
 
 // Any other kind prints nothing and goes on.
 constexpr std::array<Branch, 4> branches{{
-    {tipo::frente_de_caixa_100x40, imprime_frente_100x40},
-    {tipo::frente_de_caixa, imprime_frente_de_caixa},
-    {tipo::oculta, imprime_ocultas},
-    {tipo::acessorio, imprime_acessorios},
+    {tipo::frente_de_caixa_100x40, printBoxFronts100x40},
+    {tipo::frente_de_caixa, printBoxFronts},
+    {tipo::oculta, printHiddenLabels},
+    {tipo::acessorio, printAccessories},
 }};
 
 Course printLabels(FrmPadrao& form) {
     if (!form.Frame1.visible) {
-        return imprime_corrugados(form);
+        return printCartons(form);
     }
-    if (testa_codigo(form, form.txtcodigo) == Course::ends) {
+    if (checkCode(form, form.txtcodigo) == Course::ends) {
         return Course::ends;
     }
     const auto* const branch =
@@ -85,13 +85,13 @@ void goToNextItem(FrmPadrao& form) {
 } // namespace
 
 void cmd_printacessorio_click(FrmPadrao& form) {
-    fecha_margens(form);
+    closeMarginDialogs(form);
     form.txtbarra.text.clear();
     form.ImpressaoFeita = true;
     if (printLabels(form) == Course::ends) {
         return;
     }
-    if (form.ImpressaoFeita && !confirma(form, u"A Impressão está OK")) {
+    if (form.ImpressaoFeita && !confirm(form, u"A Impressão está OK")) {
         return;
     }
     skip([&] { limpa_objetos(form); });

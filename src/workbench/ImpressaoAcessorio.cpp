@@ -16,15 +16,15 @@ void printItem(FrmPadrao& form) {
 
 } // namespace
 
-Course imprime_acessorios(FrmPadrao& form) {
-    if (testa_logos(form) == Course::ends) {
+Course printAccessories(FrmPadrao& form) {
+    if (checkLogos(form) == Course::ends) {
         return Course::ends;
     }
-    testa_descricao(form, form.txtdescricao); // told only: the labels are printed all the same
-    inicia_trabalho_40x20(form);
-    completa_preco(form);
+    checkDescription(form, form.txtdescricao); // told only: the labels are printed all the same
+    beginJob40x20(form);
+    fillMissingPrice(form);
     skip([&] { printItem(form); });
-    encerra_trabalho(form);
+    endJob(form);
     return Course::goes_on;
 }
 

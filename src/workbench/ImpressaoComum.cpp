@@ -4,7 +4,7 @@
 
 namespace etiquetas {
 
-bool confirma(FrmPadrao& form, Text question) {
+bool confirm(FrmPadrao& form, Text question) {
     Answer answer = Answer::no;
     skip([&] {
         answer = form.platform.messages.show(
@@ -13,51 +13,51 @@ bool confirma(FrmPadrao& form, Text question) {
     return answer == Answer::yes;
 }
 
-Course pergunta_cor(FrmPadrao& form, const TextField& colour) {
+Course askAboutColour(FrmPadrao& form, const TextField& colour) {
     const bool may_print =
-        !isBlank(colour.text) || confirma(form, u"O Item está sem COR!, Imprimir mesmo assim");
+        !isBlank(colour.text) || confirm(form, u"O Item está sem COR!, Imprimir mesmo assim");
     return may_print ? Course::goes_on : Course::ends;
 }
 
-Course testa_logos(FrmPadrao& form) {
-    if (tem_logos(form)) {
+Course checkLogos(FrmPadrao& form) {
+    if (hasLogos(form)) {
         return Course::goes_on;
     }
-    avisa(form.platform.messages, aviso::sem_logotipo, Symbol::stop);
+    tellOperator(form.platform.messages, notice::sem_logotipo, Symbol::stop);
     return Course::ends;
 }
 
-Course testa_codigo(FrmPadrao& form, const TextField& code) {
+Course checkCode(FrmPadrao& form, const TextField& code) {
     if (!isBlank(code.text)) {
         return Course::goes_on;
     }
-    avisa(form.platform.messages, u"Código Inválido");
+    tellOperator(form.platform.messages, u"Código Inválido");
     return Course::ends;
 }
 
-Course testa_descricao(FrmPadrao& form, const TextField& description) {
+Course checkDescription(FrmPadrao& form, const TextField& description) {
     if (!isBlank(description.text)) {
         return Course::goes_on;
     }
-    avisa(form.platform.messages, aviso::sem_item);
+    tellOperator(form.platform.messages, notice::sem_item);
     return Course::ends;
 }
 
-void inicia_trabalho_40x20(FrmPadrao& form) {
-    seleciona_escolhida(form);
+void beginJob40x20(FrmPadrao& form) {
+    selectChosenPrinter(form);
     form.coluna_etiqueta = 1;
-    usa_milimetros(form);
-    define_pagina(form, pagina_oculta);
-    le_margens(form, margens_oculta);
-    usa_fonte(form);
-    escolhe_marca(form);
+    useMillimetres(form);
+    setPage(form, pagina_oculta);
+    readMargins(form, margens_oculta);
+    useLabelFont(form);
+    chooseBanner(form);
 }
 
-Course testa_codigos_do_tamanho(FrmPadrao& form) {
+Course checkSizeCodes(FrmPadrao& form) {
     if (!isBlank(form.lblmaster.caption) && !isBlank(form.lblbarra.caption)) {
         return Course::goes_on;
     }
-    avisa(form.platform.messages, u"Erro - 1012 - Código Master - Contate Suporte ");
+    tellOperator(form.platform.messages, u"Erro - 1012 - Código Master - Contate Suporte ");
     return Course::ends;
 }
 

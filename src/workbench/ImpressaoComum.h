@@ -2,10 +2,10 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
-#include "labels/LabelJob.h"
+#include "labels/JobSetup.h"
+#include "model/FrmPadrao.h"
 #include "orders/Complemento.h"
 #include "platform/MessageBoxes.h"
-#include "workbench/FrmPadrao.h"
 
 #include <cstdint>
 
@@ -18,31 +18,31 @@ namespace etiquetas {
 enum class Course : std::uint8_t { goes_on, ends };
 
 /// Asks the operator; true only on Yes.
-[[nodiscard]] bool confirma(FrmPadrao& form, Text question);
+[[nodiscard]] bool confirm(FrmPadrao& form, Text question);
 
 /// An item without a colour is printed only when the operator wants it so.
-[[nodiscard]] Course pergunta_cor(FrmPadrao& form, const TextField& colour);
+[[nodiscard]] Course askAboutColour(FrmPadrao& form, const TextField& colour);
 
 /// Both logos must have been loaded, whichever banner the order has.
-[[nodiscard]] Course testa_logos(FrmPadrao& form);
+[[nodiscard]] Course checkLogos(FrmPadrao& form);
 
 /// Ends the command where the item has no code.
-[[nodiscard]] Course testa_codigo(FrmPadrao& form, const TextField& code);
+[[nodiscard]] Course checkCode(FrmPadrao& form, const TextField& code);
 
 /// Tells the operator where no item is chosen. Not every branch ends then.
-Course testa_descricao(FrmPadrao& form, const TextField& description);
+Course checkDescription(FrmPadrao& form, const TextField& description);
 
 /// Sets up a job of 40 by 20 mm labels, two across.
-void inicia_trabalho_40x20(FrmPadrao& form);
+void beginJob40x20(FrmPadrao& form);
 
 /// Ends the command where the size that was looked up last has no master code or no barcode.
-[[nodiscard]] Course testa_codigos_do_tamanho(FrmPadrao& form);
+[[nodiscard]] Course checkSizeCodes(FrmPadrao& form);
 
 /// Prints the sizes of the item and ends the job: looks up the codes of each filled size slot in
 /// turn, and hands the slot to `print`, which tells the course. Where that ends, the job stays open
 /// as far as it has gone.
 template <typename Print>
-[[nodiscard]] Course imprime_grade(FrmPadrao& form, Print&& print) {
+[[nodiscard]] Course printSizes(FrmPadrao& form, Print&& print) {
     for (std::size_t slot = 0; slot < total_slots; ++slot) {
         if (isBlank(form.txtnumero[slot].text)) {
             continue;
@@ -52,7 +52,7 @@ template <typename Print>
             return Course::ends;
         }
     }
-    encerra_trabalho(form);
+    endJob(form);
     return Course::goes_on;
 }
 

@@ -10,7 +10,7 @@ namespace {
 void readMargins(FrmPadrao& form) {
     form.PackX = 3.0F;
     form.PackY = 3.0F;
-    le_margens(form, margens_pack);
+    readMargins(form, margens_pack);
 }
 
 void printVolumes(FrmPadrao& form) {
@@ -25,20 +25,20 @@ void printVolumes(FrmPadrao& form) {
 
 } // namespace
 
-Course imprime_corrugados(FrmPadrao& form) {
-    if (pergunta_cor(form, form.txtcor1) == Course::ends ||
-        testa_descricao(form, form.txtdescricao1) == Course::ends ||
-        testa_codigo(form, form.txtcodigo1) == Course::ends) {
+Course printCartons(FrmPadrao& form) {
+    if (askAboutColour(form, form.txtcor1) == Course::ends ||
+        checkDescription(form, form.txtdescricao1) == Course::ends ||
+        checkCode(form, form.txtcodigo1) == Course::ends) {
         return Course::ends;
     }
-    seleciona_escolhida(form);
+    selectChosenPrinter(form);
     readMargins(form);
-    usa_milimetros(form);
-    define_pagina(form, pagina_pack);
-    usa_fonte(form);
-    escolhe_marca(form);
+    useMillimetres(form);
+    setPage(form, pagina_pack);
+    useLabelFont(form);
+    chooseBanner(form);
     skip([&] { printVolumes(form); });
-    encerra_trabalho(form);
+    endJob(form);
     return Course::goes_on;
 }
 

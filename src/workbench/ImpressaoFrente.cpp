@@ -12,20 +12,20 @@ namespace {
 // Kind of paper and width are set behind the margins too; the height is not.
 void prepareStrip(FrmPadrao& form) {
     PrintSurface& surface = form.platform.surface;
-    usa_milimetros(form);
+    useMillimetres(form);
     skip([&] { surface.Width(pagina_caixa.width); });
     skip([&] { surface.Height(pagina_caixa.height); });
-    le_margens(form, margens_caixa);
+    readMargins(form, margens_caixa);
     skip([&] { surface.PaperSize(user_defined_paper); });
     skip([&] { surface.Width(pagina_caixa.width); });
 }
 
 void beginStripJob(FrmPadrao& form) {
     form.coluna_etiqueta = 1;
-    seleciona_escolhida(form);
+    selectChosenPrinter(form);
     prepareStrip(form);
-    usa_fonte(form);
-    escolhe_marca(form);
+    useLabelFont(form);
+    chooseBanner(form);
     if (form.Frame2.visible) {
         skip([&] { Imprime_CabecAlho(form, u"FC"); });
     }
@@ -36,8 +36,8 @@ Course printStripSize(FrmPadrao& form, std::size_t slot) {
     if (form.lblbarra.caption.empty()) {
         return Course::goes_on;
     }
-    completa_preco(form);
-    if (testa_codigos_do_tamanho(form) == Course::ends) {
+    fillMissingPrice(form);
+    if (checkSizeCodes(form) == Course::ends) {
         return Course::ends;
     }
     skip([&] {
@@ -52,22 +52,22 @@ Course printStripSize(FrmPadrao& form, std::size_t slot) {
 
 // The page is the printer's own, and so are the margins.
 void begin100x40Job(FrmPadrao& form) {
-    seleciona_escolhida(form);
-    usa_milimetros(form);
+    selectChosenPrinter(form);
+    useMillimetres(form);
     form.Margem_oculta1 = 3.0F;
     form.Margem_oculta11 = 45.0F;
     form.Margem_oculta2 = 3.0F;
     form.PackLinhaX = 0.0F;
     form.PackLinhaY = 0.0F;
-    usa_fonte(form);
-    escolhe_marca(form);
+    useLabelFont(form);
+    chooseBanner(form);
 }
 
 Course print100x40Size(FrmPadrao& form, std::size_t slot) {
     if (form.lblbarra.caption.empty()) {
         return Course::goes_on;
     }
-    completa_preco(form);
+    fillMissingPrice(form);
     skip([&] {
         Eti100_40_1(form, form.marca_logo, descricao_cor(form), ref3(form), form.txtcodigo.text,
                     form.lblbarra.caption, form.Label7[slot].caption, form.txtpreco.text,
@@ -78,23 +78,23 @@ Course print100x40Size(FrmPadrao& form, std::size_t slot) {
 
 } // namespace
 
-Course imprime_frente_de_caixa(FrmPadrao& form) {
-    if (pergunta_cor(form, form.txtcor) == Course::ends || testa_logos(form) == Course::ends) {
+Course printBoxFronts(FrmPadrao& form) {
+    if (askAboutColour(form, form.txtcor) == Course::ends || checkLogos(form) == Course::ends) {
         return Course::ends;
     }
-    testa_descricao(form, form.txtdescricao); // told only: the labels are printed all the same
+    checkDescription(form, form.txtdescricao); // told only: the labels are printed all the same
     beginStripJob(form);
-    return imprime_grade(form, [&](std::size_t slot) { return printStripSize(form, slot); });
+    return printSizes(form, [&](std::size_t slot) { return printStripSize(form, slot); });
 }
 
-Course imprime_frente_100x40(FrmPadrao& form) {
-    if (pergunta_cor(form, form.txtcor) == Course::ends ||
-        testa_descricao(form, form.txtdescricao) == Course::ends ||
-        testa_logos(form) == Course::ends) {
+Course printBoxFronts100x40(FrmPadrao& form) {
+    if (askAboutColour(form, form.txtcor) == Course::ends ||
+        checkDescription(form, form.txtdescricao) == Course::ends ||
+        checkLogos(form) == Course::ends) {
         return Course::ends;
     }
     begin100x40Job(form);
-    return imprime_grade(form, [&](std::size_t slot) { return print100x40Size(form, slot); });
+    return printSizes(form, [&](std::size_t slot) { return print100x40Size(form, slot); });
 }
 
 } // namespace etiquetas

@@ -7,12 +7,12 @@ namespace etiquetas {
 
 namespace {
 
-Course testa_quantidade(FrmPadrao& form) {
+Course checkQuantity(FrmPadrao& form) {
     if (!isBlank(form.TXTOCULTAS.text)) {
         return Course::goes_on;
     }
-    avisa(form.platform.messages, u"Quantidade de Etiquetas Ocultas - Inválida",
-          Symbol::exclamation);
+    tellOperator(form.platform.messages, u"Quantidade de Etiquetas Ocultas - Inválida",
+                 Symbol::exclamation);
     return Course::ends;
 }
 
@@ -26,7 +26,7 @@ void drawSize(FrmPadrao& form, std::size_t slot) {
 }
 
 Course printSize(FrmPadrao& form, std::size_t slot) {
-    if (testa_codigos_do_tamanho(form) == Course::ends) {
+    if (checkSizeCodes(form) == Course::ends) {
         return Course::ends;
     }
     skip([&] { drawSize(form, slot); });
@@ -35,15 +35,15 @@ Course printSize(FrmPadrao& form, std::size_t slot) {
 
 } // namespace
 
-Course imprime_ocultas(FrmPadrao& form) {
-    if (pergunta_cor(form, form.txtcor) == Course::ends || testa_quantidade(form) == Course::ends) {
+Course printHiddenLabels(FrmPadrao& form) {
+    if (askAboutColour(form, form.txtcor) == Course::ends || checkQuantity(form) == Course::ends) {
         return Course::ends;
     }
-    inicia_trabalho_40x20(form);
+    beginJob40x20(form);
     if (form.Frame2.visible) {
         skip([&] { Imprime_CabecAlho(form, u"OCULTA"); });
     }
-    return imprime_grade(form, [&](std::size_t slot) { return printSize(form, slot); });
+    return printSizes(form, [&](std::size_t slot) { return printSize(form, slot); });
 }
 
 } // namespace etiquetas

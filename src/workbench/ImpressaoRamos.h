@@ -8,19 +8,19 @@ namespace etiquetas {
 // as one job, and tells whether the command goes on behind it.
 
 /// Hidden labels: two for each pair of each size.
-Course imprime_ocultas(FrmPadrao& form);
+Course printHiddenLabels(FrmPadrao& form);
 
 /// Box front labels: one for each pair of each size. A size without a barcode is passed over.
-Course imprime_frente_de_caixa(FrmPadrao& form);
+Course printBoxFronts(FrmPadrao& form);
 
 /// Box front labels with a photograph, on the printer's own page.
-Course imprime_frente_100x40(FrmPadrao& form);
+Course printBoxFronts100x40(FrmPadrao& form);
 
 /// Accessory labels: as many as `TXTPARES` tells.
-Course imprime_acessorios(FrmPadrao& form);
+Course printAccessories(FrmPadrao& form);
 
 /// Carton labels: one for each volume from `cmb_vol1` to `cmb_vol2`; just the first where the
 /// second is below it.
-Course imprime_corrugados(FrmPadrao& form);
+Course printCartons(FrmPadrao& form);
 
 } // namespace etiquetas

@@ -4,18 +4,18 @@
 #include "base/Numbers.h"
 #include "base/Version.h"
 #include "config/Settings.h"
+#include "model/FrmPadrao.h"
 #include "orders/ItemSlots.h"
 #include "platform/Files.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Printers.h"
 #include "support/ModAddFonte.h"
-#include "workbench/FrmPadrao.h"
 
 namespace etiquetas {
 
 namespace {
 
-void lista_impressoras(FrmPadrao& form) {
+void listPrinters(FrmPadrao& form) {
     Printers& printers = form.platform.printers;
     form.CMBPRINTER.clear();
     int counter = 0;
@@ -35,7 +35,7 @@ void lista_impressoras(FrmPadrao& form) {
     form.lblprinterdefault.caption = form.CMBPRINTER.text;
 }
 
-void garante_pasta_de_imagens(FrmPadrao& form) {
+void ensurePhotographFolder(FrmPadrao& form) {
     Files& files = form.platform.files;
     skip([&] {
         const Text folder = joined(files, files.programFolder(), u"imagens");
@@ -58,7 +58,7 @@ constexpr std::array<Logo, 2> logos{{
 }};
 
 // False when the logo is not there; one that is no picture is left empty without a word.
-bool carrega_logo(FrmPadrao& form, const Logo& logo) {
+bool loadLogo(FrmPadrao& form, const Logo& logo) {
     const Files& files = form.platform.files;
     const auto path = findFile(files, files.programFolder(), logo.file);
     if (!path) {
@@ -71,23 +71,24 @@ bool carrega_logo(FrmPadrao& form, const Logo& logo) {
     return true;
 }
 
-void carrega_logos(FrmPadrao& form) {
+void loadLogos(FrmPadrao& form) {
     Text missing;
     for (const Logo& logo : logos) {
         form.*logo.loaded = false;
     }
     for (const Logo& logo : logos) {
-        if (!carrega_logo(form, logo)) {
+        if (!loadLogo(form, logo)) {
             missing.append(u"\n").append(logo.name);
         }
     }
     if (!missing.empty()) {
-        avisa(form.platform.messages,
-              u"O(s) arquivo(s): " + missing + u"\nNão foi(ram) localizado(s)!", Symbol::stop);
+        tellOperator(form.platform.messages,
+                     u"O(s) arquivo(s): " + missing + u"\nNão foi(ram) localizado(s)!",
+                     Symbol::stop);
     }
 }
 
-void preenche_tipos(FrmPadrao& form) {
+void fillKinds(FrmPadrao& form) {
     form.cmbtipo.clear();
     for (const TextView kind :
          {tipo::frente_de_caixa, tipo::corrugado, tipo::acessorio, tipo::oculta}) {
@@ -96,35 +97,35 @@ void preenche_tipos(FrmPadrao& form) {
     form.cmbtipo.choose(0);
 }
 
-void garante_ajustes(FrmPadrao& form) {
+void ensureSettings(FrmPadrao& form) {
     Files& files = form.platform.files;
-    const Text file = caminho_ini(files);
+    const Text file = settingsPath(files);
     if (!files.fileExists(file)) {
         gera_ini_base(files, file);
     }
 }
 
-void le_ajustes(FrmPadrao& form) {
+void readSettings(FrmPadrao& form) {
     const Files& files = form.platform.files;
-    const Text file = caminho_ini(files);
+    const Text file = settingsPath(files);
     if (!files.fileExists(file)) {
         return;
     }
     const auto le = [&](TextView section, TextView key) {
         return LeIni(files, file, section, key, {});
     };
-    form.txtcliente.text = le(secao::config, u"Referencia");
-    form.txtlote.text = le(secao::config, u"Lote");
-    form.txtarquivo.text = le(secao::config, u"arquivo");
-    form.lbloculta.caption = le(secao::impressora, u"TipoOculta");
+    form.txtcliente.text = le(ini_section::config, u"Referencia");
+    form.txtlote.text = le(ini_section::config, u"Lote");
+    form.txtarquivo.text = le(ini_section::config, u"arquivo");
+    form.lbloculta.caption = le(ini_section::impressora, u"TipoOculta");
     if (isBlank(form.lbloculta.caption)) {
         form.lbloculta.caption = u"3";
     }
-    form.lblcompartilhamento.caption = le(secao::impressora, u"NomeCompartilhamento");
-    form.lblpath.caption = le(secao::impressora, u"Path");
+    form.lblcompartilhamento.caption = le(ini_section::impressora, u"NomeCompartilhamento");
+    form.lblpath.caption = le(ini_section::impressora, u"Path");
 }
 
-Text versao() {
+Text versionText() {
     return u" [Versão: " + numberText(version_major) + u"." + numberText(version_minor) + u"." +
            numberText(version_patch) + u"]";
 }
@@ -132,20 +133,20 @@ Text versao() {
 } // namespace
 
 void FrmPadrao_load(FrmPadrao& form) {
-    lista_impressoras(form);
-    garante_pasta_de_imagens(form);
+    listPrinters(form);
+    ensurePhotographFolder(form);
     form.tem_imagem = false;
     OCULTA_ITENS(form);
-    carrega_logos(form);
+    loadLogos(form);
     // The two item panels stand one over the other; the window lays them out so.
-    preenche_tipos(form);
+    fillKinds(form);
     FrmPadrao_resize(form);
     form.lblpath.caption = form.platform.files.programFolder();
-    skip([&] { garante_ajustes(form); });
+    skip([&] { ensureSettings(form); });
     OCULTA_ITENS(form);
     form.cmb_referencia.clear();
-    skip([&] { le_ajustes(form); });
-    form.Caption += versao();
+    skip([&] { readSettings(form); });
+    form.Caption += versionText();
     VerificaFontes(form.platform.surface, form.platform.pointer, form.platform.messages);
     form.NomeFonte = u"Estrangelo Edessa";
 }
@@ -158,10 +159,10 @@ void FrmPadrao_resize(FrmPadrao& form) {
 }
 
 void FrmPadrao_unload(FrmPadrao& form) {
-    fecha_margens(form);
+    closeMarginDialogs(form);
 }
 
-void fecha_margens(FrmPadrao& form) {
+void closeMarginDialogs(FrmPadrao& form) {
     form.FrmMargensOcultaZPL2.open = false;
     form.FrmMargensCxZPL45.open = false;
     form.FrmMargensPackZPL.open = false;

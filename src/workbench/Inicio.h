@@ -16,6 +16,6 @@ void FrmPadrao_unload(FrmPadrao& form);
 
 /// Closes the three margin dialogs, those of the hidden, box front and corrugated labels in this
 /// order.
-void fecha_margens(FrmPadrao& form);
+void closeMarginDialogs(FrmPadrao& form);
 
 } // namespace etiquetas

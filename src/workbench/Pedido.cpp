@@ -3,6 +3,7 @@
 #include "base/CodePage.h"
 #include "base/Numbers.h"
 #include "config/Settings.h"
+#include "model/FrmPadrao.h"
 #include "orders/GradeAcessorio.h"
 #include "orders/GradeCorrugado.h"
 #include "orders/GradeFc.h"
@@ -10,7 +11,6 @@
 #include "orders/OrderFormat.h"
 #include "platform/Files.h"
 #include "platform/MessageBoxes.h"
-#include "workbench/FrmPadrao.h"
 
 #include <algorithm>
 #include <array>
@@ -252,7 +252,7 @@ void carrega_pedido(FrmPadrao& form) {
         return;
     }
     Files& files = form.platform.files;
-    GravaIni(files, secao::config, u"arquivo", form.txtarquivo.text, caminho_ini(files));
+    GravaIni(files, ini_section::config, u"arquivo", form.txtarquivo.text, settingsPath(files));
     showPanels(form, *family);
     const Text order = readOrder(form, name);
     if (order.empty()) {

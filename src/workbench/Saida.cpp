@@ -1,16 +1,16 @@
 #include "workbench/Saida.h"
 
 #include "config/Settings.h"
+#include "model/FrmPadrao.h"
 #include "platform/Process.h"
-#include "workbench/FrmPadrao.h"
 
 namespace etiquetas {
 
 void cmd_sair_click(FrmPadrao& form) {
     Files& files = form.platform.files;
-    const Text file = caminho_ini(files);
+    const Text file = settingsPath(files);
     const auto grava = [&](TextView key, TextView value) {
-        GravaIni(files, secao::config, key, value, file);
+        GravaIni(files, ini_section::config, key, value, file);
     };
     grava(u"Referencia", form.txtcliente.text);
     grava(u"arquivo", form.txtarquivo.text);

@@ -130,10 +130,10 @@ TEST(ProfileTest, WritingAKey) {
 class SettingsTest : public testing::Test, protected FakePlatform {};
 
 TEST_F(SettingsTest, FileIsFoundInAnyCaseAndValuesGoThroughTheCodePageWhole) {
-    EXPECT_EQ(caminho_ini(files), u"/programa/Varesko.ini");
+    EXPECT_EQ(settingsPath(files), u"/programa/Varesko.ini");
     EXPECT_EQ(joined(files, u"/", u"a"), u"/a");
     files.bytes[u"/programa/VARESKO.INI"] = "[config]\r\nLOTE=5\r\n";
-    const Text ini = caminho_ini(files);
+    const Text ini = settingsPath(files);
     GravaIni(files, u"Config", u"Lote", Text(1000, u'á') + u"€Ω", ini);
     EXPECT_EQ(files.bytes[u"/programa/VARESKO.INI"],
               "[config]\r\nLOTE=" + std::string(1000, '\xE1') + "\x80?\r\n");

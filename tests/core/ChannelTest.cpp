@@ -88,7 +88,7 @@ TEST_F(ChannelTest, CommandFileOfEachPortIsWrittenOnceAndStarted) {
         machine.files.bytes.erase(command);
         form.lblporta.caption = kind;
         form.lblcompartilhamento.caption = share;
-        envia_programa(form, {u"^XA", u"ç"}, end);
+        sendProgram(form, {u"^XA", u"ç"}, end);
         EXPECT_EQ(job, "^XA\r\n\xE7\r\n");
         EXPECT_EQ(machine.files.bytes[command], toCodePage1252(lines + u"\r\n"));
         EXPECT_EQ(machine.log, (Log{"write /programa/epltemp.prn", "write /programa/IMPRIMIR.BAT",
@@ -96,11 +96,11 @@ TEST_F(ChannelTest, CommandFileOfEachPortIsWrittenOnceAndStarted) {
     }
     machine.files.bytes[command] = "old";
     machine.failing = {"start"};
-    envia_programa(form, {}, FimDoComando::simples);
+    sendProgram(form, {}, FimDoComando::simples);
     EXPECT_EQ(machine.files.bytes[command] + job, "old");
     machine.files.bytes.erase(command);
     machine.failing = {"write"};
-    envia_programa(form, {}, FimDoComando::simples);
+    sendProgram(form, {}, FimDoComando::simples);
     EXPECT_EQ(machine.log.back(), "start /programa/IMPRIMIR.BAT");
     EXPECT_FALSE(machine.files.fileExists(u"/programa/epltemp.prn")) << "no job is sent twice";
 }

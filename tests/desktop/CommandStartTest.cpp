@@ -1,6 +1,6 @@
-#include "desktop/QtCommandStart.h"
-#include "desktop/QtFiles.h"
-#include "desktop/QtText.h"
+#include "desktop/machine/QtCommandStart.h"
+#include "desktop/machine/QtFiles.h"
+#include "desktop/machine/QtText.h"
 
 #include <QFile>
 #include <QTemporaryDir>

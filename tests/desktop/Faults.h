@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Failure.h"
-#include "desktop/QtText.h"
+#include "desktop/machine/QtText.h"
 
 #include <gtest/gtest.h>
 

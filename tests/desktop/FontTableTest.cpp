@@ -1,7 +1,7 @@
-#include "desktop/FontTable.h"
+#include "desktop/printing/FontTable.h"
 
 #include "PdfTools.h"
-#include "desktop/LabelFont.h"
+#include "desktop/printing/LabelFont.h"
 
 #include <QFile>
 #include <QFontDatabase>

@@ -1,7 +1,7 @@
 #include "Faults.h"
-#include "desktop/QtFiles.h"
-#include "desktop/QtPictures.h"
-#include "desktop/QtPrinters.h"
+#include "desktop/machine/QtFiles.h"
+#include "desktop/machine/QtPictures.h"
+#include "desktop/machine/QtPrinters.h"
 
 #include <QDir>
 #include <QPainter>

@@ -1,8 +1,8 @@
 #include "Faults.h"
 #include "PdfTools.h"
 #include "barcodes/EAN13and8.h"
-#include "desktop/QtPictures.h"
-#include "desktop/QtPrintSurface.h"
+#include "desktop/machine/QtPictures.h"
+#include "desktop/printing/QtPrintSurface.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -148,7 +148,7 @@ TEST_F(PrintSurfaceTest, placesTextsByTheirCellAndDrawsThemAsWideAsItMeasuresThe
     EXPECT_NEAR(pageTexts(finished()).at(0).at(0).origins.at(0).x(), 30, 0.02);
 }
 
-TEST(Stamps, cropsAPictureWithinItsEdges) {
+TEST(PictureMarks, cropsAPictureWithinItsEdges) {
     const Raster picture{40, 10, {}};
     EXPECT_EQ(cropOf(picture, {.x = 20, .width = 300}), QRect(20, 0, 20, 10));
     EXPECT_EQ(cropOf(picture, {.x = -20, .width = 40}), QRect(0, 0, 20, 10));

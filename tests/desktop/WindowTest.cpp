@@ -1,6 +1,6 @@
 #include "PdfTools.h"
 #include "SampleWindow.h"
-#include "desktop/QtText.h"
+#include "desktop/machine/QtText.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -2,6 +2,7 @@
 
 #include "base/CodePage.h"
 #include "base/Failure.h"
+#include "model/FrmPadrao.h"
 #include "platform/CommandStart.h"
 #include "platform/Files.h"
 #include "platform/Focus.h"
@@ -12,7 +13,6 @@
 #include "platform/PrintSurface.h"
 #include "platform/Printers.h"
 #include "platform/Process.h"
-#include "workbench/FrmPadrao.h"
 #include "workbench/Inicio.h"
 
 #include <array>

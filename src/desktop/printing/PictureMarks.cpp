@@ -1,0 +1,127 @@
+#include "desktop/printing/PictureMarks.h"
+
+#include <QColor>
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <span>
+
+namespace etiquetas {
+
+namespace {
+
+std::span<const Pixel> rowOf(const Raster& picture, const QRect& crop, int row) {
+    const auto first = static_cast<std::size_t>(row) * static_cast<std::size_t>(picture.width) +
+                       static_cast<std::size_t>(crop.left());
+    return std::span(picture.pixels).subspan(first, static_cast<std::size_t>(crop.width()));
+}
+
+bool isPure(Pixel pixel) {
+    return pixel == black_pixel || pixel == white_pixel;
+}
+
+bool isBlackAndWhite(const Raster& picture, const QRect& crop) {
+    for (int row = crop.top(); row <= crop.bottom(); ++row) {
+        const auto pixels = rowOf(picture, crop, row);
+        if (!std::all_of(pixels.begin(), pixels.end(), isPure)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// The row after the band of equal rows that begins at `row`.
+int bandEnd(const Raster& picture, const QRect& crop, int row) {
+    const auto pixels = rowOf(picture, crop, row);
+    int end = row + 1;
+    while (end <= crop.bottom() && std::ranges::equal(pixels, rowOf(picture, crop, end))) {
+        ++end;
+    }
+    return end;
+}
+
+QImage oneBitRow(std::span<const Pixel> pixels) {
+    QImage image(static_cast<int>(pixels.size()), 1, QImage::Format_Mono);
+    image.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
+    for (int x = 0; x < image.width(); ++x) {
+        image.setPixel(x, 0, pixels[static_cast<std::size_t>(x)] == black_pixel ? 0 : 1);
+    }
+    return image;
+}
+
+Mark bandMark(std::span<const Pixel> pixels, const QRectF& place) {
+    const bool blank = std::find(pixels.begin(), pixels.end(), black_pixel) == pixels.end();
+    return blank ? Mark(BoxMark{place, Qt::white}) : Mark(ImageMark{place, oneBitRow(pixels)});
+}
+
+// Bars must stand on the page where the raster has them. An image one row high and one bit deep is
+// stretched so far that no program smooths it, and it is stored without loss.
+void stampBands(LabelPage& page, const Raster& picture, const QRect& crop, const QRectF& place) {
+    const double row_height = place.height() / crop.height();
+    for (int row = crop.top(); row <= crop.bottom();) {
+        const int end = bandEnd(picture, crop, row);
+        const QRectF band(place.left(), place.top() + (row - crop.top()) * row_height,
+                          place.width(), (end - row) * row_height);
+        page.marks.emplace_back(bandMark(rowOf(picture, crop, row), band));
+        row = end;
+    }
+}
+
+QImage colourImage(const Raster& picture, const QRect& crop) {
+    constexpr Pixel opaque = 0xFF000000;
+    QImage image(crop.size(), QImage::Format_RGB32);
+    for (int y = 0; y < crop.height(); ++y) {
+        const auto pixels = rowOf(picture, crop, crop.top() + y);
+        const std::span line(reinterpret_cast<QRgb*>(image.scanLine(y)), pixels.size());
+        std::ranges::transform(pixels, line.begin(), [](Pixel pixel) { return opaque | pixel; });
+    }
+    return image;
+}
+
+bool samePicture(const std::weak_ptr<const Raster>& kept, const Picture& picture) {
+    return !kept.owner_before(picture) && !picture.owner_before(kept);
+}
+
+// The nearest edge between pixels, from 0 to `size`; `fallback` where none is told.
+int edge(std::optional<float> position, int fallback, int size) {
+    const float told = position.value_or(static_cast<float>(fallback));
+    return static_cast<int>(std::lround(std::clamp(told, 0.0F, static_cast<float>(size))));
+}
+
+std::optional<float> sum(std::optional<float> start, std::optional<float> length) {
+    return length ? std::optional(start.value_or(0.0F) + *length) : std::nullopt;
+}
+
+} // namespace
+
+QRect cropOf(const Raster& picture, const SourceArea& source) {
+    const int left = edge(source.x, 0, picture.width);
+    const int top = edge(source.y, 0, picture.height);
+    const int right = edge(sum(source.x, source.width), picture.width, picture.width);
+    const int bottom = edge(sum(source.y, source.height), picture.height, picture.height);
+    return {left, top, right - left, bottom - top};
+}
+
+void PictureMarks::stamp(LabelPage& page, const Picture& picture, const QRect& crop,
+                         const QRectF& place) {
+    if (isBlackAndWhite(*picture, crop)) {
+        stampBands(page, *picture, crop, place);
+    } else {
+        page.marks.emplace_back(ImageMark{place, imageOf(picture, crop)});
+    }
+}
+
+// The same image is handed out for each stamp of a picture: it is then stored once in a job.
+QImage PictureMarks::imageOf(const Picture& picture, const QRect& crop) {
+    std::erase_if(kept_, [](const Kept& kept) { return kept.picture.expired(); });
+    const auto known = std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) {
+        return samePicture(kept.picture, picture) && kept.crop == crop;
+    });
+    if (known != kept_.end()) {
+        return known->image;
+    }
+    return kept_.emplace_back(Kept{picture, crop, colourImage(*picture, crop)}).image;
+}
+
+} // namespace etiquetas

@@ -1,0 +1,201 @@
+#include "desktop/printing/QtPrintSurface.h"
+
+#include "base/Failure.h"
+#include "desktop/machine/QtText.h"
+#include "desktop/printing/FontTable.h"
+#include "desktop/printing/PdfFile.h"
+
+#include <QCursor>
+#include <QDir>
+#include <QGuiApplication>
+#include <QScopeGuard>
+
+#include <utility>
+
+namespace etiquetas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double millimetres_per_point = millimetres_per_inch / 72;
+
+Failure invalidCall(const char16_t* description) {
+    return {failure_number::invalid_call, u"PrintSurface", description};
+}
+
+void requirePositive(int twips) {
+    if (twips <= 0) {
+        throw invalidCall(u"Chamada inválida: a página precisa de um tamanho.");
+    }
+}
+
+QColor colourOf(Pixel pixel) {
+    return QColor::fromRgb(pixel);
+}
+
+} // namespace
+
+QtPrintSurface::QtPrintSurface(const QtPrinters& printers, const QString& folder, Clock clock)
+    : printers_(&printers), folder_(QDir(folder).filePath(u"impressos"_s)),
+      clock_(std::move(clock)), fonts_(installedFamilies()),
+      faces_(offeredFaces(fonts_.families())) {
+    selectFont();
+}
+
+void QtPrintSurface::FontName(TextView face) {
+    face_ = face;
+    selectFont();
+}
+
+void QtPrintSurface::FontSize(float points) {
+    if (!(points > 0)) {
+        throw invalidCall(u"Chamada inválida: o tamanho da fonte precisa ser positivo.");
+    }
+    points_ = points;
+}
+
+void QtPrintSurface::FontBold(bool bold) {
+    bold_ = bold;
+    selectFont();
+}
+
+void QtPrintSurface::PaperSize(int kind) {
+    if (kind != user_defined_paper) {
+        throw invalidCall(u"Chamada inválida: só há papel de tamanho livre.");
+    }
+}
+
+void QtPrintSurface::Width(int twips) {
+    requirePositive(twips);
+    beginPageSize();
+    width_ = twips;
+}
+
+void QtPrintSurface::Height(int twips) {
+    requirePositive(twips);
+    beginPageSize();
+    height_ = twips;
+}
+
+void QtPrintSurface::Print(TextView text) {
+    if (text.empty()) {
+        return;
+    }
+    LabelPage& drawn = page();
+    const QPointF baseline(x_ * unit(), y_ * unit() + font_->ascent(fontSize()));
+    drawn.marks.emplace_back(
+        TextMark{baseline, toQString(text), font_->font(), font_->scaleFor(fontSize())});
+}
+
+float QtPrintSurface::TextWidth(TextView text) const {
+    return static_cast<float>(font_->width(toQString(text), fontSize()) / unit());
+}
+
+void QtPrintSurface::Line(int flags, float x1, float y1, float x2, float y2, Pixel colour) {
+    if (flags != filled_box) {
+        throw invalidCall(u"Chamada inválida: só há linhas em forma de caixa cheia.");
+    }
+    LabelPage& drawn = page();
+    const QRectF box = place(x1, y1, x2 - x1, y2 - y1);
+    drawn.marks.emplace_back(BoxMark{box.normalized(), colourOf(colour)});
+}
+
+void QtPrintSurface::PaintPicture(const Picture& picture, float x, float y, float width,
+                                  float height, const SourceArea& source) {
+    if (!picture) {
+        return;
+    }
+    const QRect crop = cropOf(*picture, source);
+    if (crop.isEmpty() || !(width > 0) || !(height > 0)) {
+        return;
+    }
+    LabelPage& drawn = page();
+    picture_marks_.stamp(drawn, picture, crop, place(x, y, width, height));
+}
+
+void QtPrintSurface::NewPage() {
+    if (job_) {
+        job_->endPage();
+    }
+}
+
+void QtPrintSurface::EndDoc() {
+    // A job that fails is over too: what has reached the printer must not come out twice.
+    auto job = std::exchange(job_, std::nullopt);
+    if (!job) {
+        return;
+    }
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor); // a long job takes its time here
+    const auto ended = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
+    if (!job->target().built_in) {
+        job->send();
+        return;
+    }
+    QString written; // nothing where it fails
+    const auto told = qScopeGuard([this, &written] { job_written_(written); });
+    written = writePdfFile(folder_, clock_(), [&job](const QString& path) { job->write(path); });
+}
+
+std::size_t QtPrintSurface::FontCount() const {
+    return static_cast<std::size_t>(faces_.size());
+}
+
+Text QtPrintSurface::Fonts(std::size_t index) const {
+    if (index >= FontCount()) {
+        throw subscriptOutOfRange();
+    }
+    return toText(faces_[static_cast<qsizetype>(index)]);
+}
+
+// Forgets a size that was set before the current printer was selected.
+void QtPrintSurface::beginPageSize() {
+    if (size_selection_ != printers_->selections()) {
+        size_selection_ = printers_->selections();
+        width_.reset();
+        height_.reset();
+    }
+}
+
+// Millimetres.
+double QtPrintSurface::fontSize() const {
+    return points_ * millimetres_per_point;
+}
+
+// Millimetres to one unit of the coordinates.
+double QtPrintSurface::unit() const {
+    return scale_mode_ == etiquetas::ScaleMode::pixels ? millimetres_per_inch / resolution() : 1.0;
+}
+
+int QtPrintSurface::resolution() const {
+    if (job_) {
+        return job_->resolution();
+    }
+    const PrintTarget& target = printers_->current();
+    const auto known = resolutions_.find(target.name);
+    return known != resolutions_.end()
+               ? known->second
+               : resolutions_.emplace(target.name, resolutionOf(target)).first->second;
+}
+
+std::optional<QPageSize> QtPrintSurface::pageSize() const {
+    const bool of_this_selection = size_selection_ == printers_->selections();
+    if (!of_this_selection || !width_ || !height_) {
+        return std::nullopt;
+    }
+    return labelPageSize(*width_, *height_);
+}
+
+QRectF QtPrintSurface::place(float x, float y, float width, float height) const {
+    const double scale = unit();
+    return {x * scale, y * scale, width * scale, height * scale};
+}
+
+LabelPage& QtPrintSurface::page() {
+    if (!job_) {
+        job_.emplace(printers_->current());
+    }
+    return job_->page(pageSize());
+}
+
+} // namespace etiquetas

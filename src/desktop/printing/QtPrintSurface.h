@@ -1,0 +1,106 @@
+#pragma once
+
+#include "base/Text.h"
+#include "desktop/machine/QtPrinters.h"
+#include "desktop/printing/LabelFont.h"
+#include "desktop/printing/PictureMarks.h"
+#include "desktop/printing/PrintJob.h"
+#include "platform/PrintSurface.h"
+
+#include <QDateTime>
+#include <QPageSize>
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <map>
+#include <optional>
+
+namespace etiquetas {
+
+/// Draws labels on the machine's printers and on the built-in device, with the same code for all.
+/// Positions and widths stand in millimetres, and hold at every resolution; pages have whole
+/// points.
+class QtPrintSurface final : public PrintSurface {
+  public:
+    using Clock = std::function<QDateTime()>;
+    using JobWritten = std::function<void(const QString& path)>;
+    using PrintSurface::PaintPicture;
+
+    /// Jobs begin on the current one of `printers`, which must outlive the surface. Those of the
+    /// built-in device become files in the folder "impressos" beneath `folder`, named by `clock`.
+    QtPrintSurface(const QtPrinters& printers, const QString& folder,
+                   Clock clock = QDateTime::currentDateTime);
+
+    /// What is called behind each job of the built-in device: with the path of its file, or with
+    /// none where it could not be written.
+    void onJobWritten(JobWritten told) { job_written_ = std::move(told); }
+    /// Forgets the open job, if there is one: nothing of it is printed.
+    void dropJob() { job_.reset(); }
+
+    void FontName(TextView face) override;
+    /// Fails where the size is not positive.
+    void FontSize(float points) override;
+    void FontBold(bool bold) override;
+    [[nodiscard]] float FontSize() const override { return points_; }
+
+    void CurrentX(float x) override { x_ = x; }
+    void CurrentY(float y) override { y_ = y; }
+    void ScaleMode(etiquetas::ScaleMode mode) override { scale_mode_ = mode; }
+
+    /// Fails for any kind but `user_defined_paper`.
+    void PaperSize(int kind) override;
+    /// A size holds from the next page on, until a printer is selected: its own page holds then.
+    /// Fails where it is not positive.
+    void Width(int twips) override;
+    void Height(int twips) override;
+
+    void Print(TextView text) override;
+    [[nodiscard]] float TextWidth(TextView text) const override;
+    /// Fails for any flags but `filled_box`.
+    void Line(int flags, float x1, float y1, float x2, float y2, Pixel colour) override;
+    void PaintPicture(const Picture& picture, float x, float y, float width, float height,
+                      const SourceArea& source) override;
+
+    void NewPage() override;
+    void EndDoc() override;
+
+    [[nodiscard]] std::size_t FontCount() const override;
+    /// Fails where there is no such place.
+    [[nodiscard]] Text Fonts(std::size_t index) const override;
+
+  private:
+    void selectFont() { font_ = &fonts_.get(face_, bold_); }
+    void beginPageSize();
+    [[nodiscard]] double fontSize() const;
+    [[nodiscard]] double unit() const;
+    [[nodiscard]] int resolution() const;
+    [[nodiscard]] std::optional<QPageSize> pageSize() const;
+    [[nodiscard]] QRectF place(float x, float y, float width, float height) const;
+    [[nodiscard]] LabelPage& page();
+
+    const QtPrinters* printers_;
+    QString folder_;
+    Clock clock_;
+    JobWritten job_written_ = [](const QString&) {};
+
+    LabelFonts fonts_;
+    QStringList faces_;
+    PictureMarks picture_marks_;
+    std::optional<PrintJob> job_;
+    mutable std::map<QString, int> resolutions_; // dots to the inch, by device name
+
+    Text face_;
+    bool bold_ = false;
+    float points_ = 8;
+    const LabelFont* font_ = nullptr;
+    float x_ = 0;
+    float y_ = 0;
+    etiquetas::ScaleMode scale_mode_ = etiquetas::ScaleMode::millimetres;
+    std::optional<int> width_;       // twips
+    std::optional<int> height_;      // twips
+    std::size_t size_selection_ = 0; // selection of the printer that the size was set for
+};
+
+} // namespace etiquetas

@@ -1,0 +1,352 @@
+#include "desktop/windows/EventBridge.h"
+
+#include "base/Failure.h"
+#include "desktop/machine/QtText.h"
+#include "desktop/windows/QtFocus.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QTimer>
+
+#include <limits>
+
+namespace etiquetas {
+
+namespace {
+
+// The toolkit would cut a text at 32,767 characters, and the fields would take the cut one.
+constexpr int any_length = std::numeric_limits<int>::max();
+
+// Key code of the keys that walk through the fields, 0 for any other.
+KeyCode walkingKey(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return key::enter;
+    case Qt::Key_Up:
+        return key::arrow_up;
+    case Qt::Key_Down:
+        return key::arrow_down;
+    default:
+        return key::none;
+    }
+}
+
+// True for the mnemonic of a command: where that is hidden, its letter must not be written. The
+// toolkit tells Ctrl and Alt for the key that writes third characters.
+bool isMnemonic(const QKeyEvent& event) {
+    const auto modifiers = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+    return modifiers == Qt::AltModifier && !event.text().isEmpty() &&
+           event.text().front().isPrint();
+}
+
+// True for a key that is held down on a command, which is pressed once: one item, one job.
+bool repeatsCommand(const FieldRow& row, const QKeyEvent& event) {
+    return row.click && event.isAutoRepeat() &&
+           (walkingKey(event) == key::enter || event.key() == Qt::Key_Space);
+}
+
+// Character of a key, 0 when it writes none. The toolkit gives a text to keys, too, that only move
+// or delete.
+KeyCode characterOf(const QKeyEvent& event) {
+    if (walkingKey(event) == key::enter) {
+        return key::enter;
+    }
+    const bool writes = event.key() != Qt::Key_Tab && event.key() != Qt::Key_Backtab &&
+                        event.key() != Qt::Key_Delete;
+    if (!writes) {
+        return key::none;
+    }
+    return event.text().size() == 1 ? event.text().front().unicode() : key::none;
+}
+
+// A click on a label comes to the panel that the label stands in too, and is none on the panel.
+bool isOn(const QWidget& widget, const QMouseEvent& event) {
+    return widget.childAt(event.position().toPoint()) == nullptr;
+}
+
+// A list's text is edited by a widget inside it.
+const QObject* ownerOf(const QObject* widget) {
+    const bool inside_list =
+        widget != nullptr && qobject_cast<const QComboBox*>(widget->parent()) != nullptr;
+    return inside_list ? widget->parent() : widget;
+}
+
+} // namespace
+
+EventBridge::EventBridge(QtFocus& focus, Failed failed)
+    : focus_(focus), failed_(std::move(failed)) {
+    // Late, when the toolkit has finished its own change of focus: a handler may show a message
+    // box.
+    connect(
+        qApp, &QApplication::focusChanged, this, [this] { settleFocus(); }, Qt::QueuedConnection);
+}
+
+void EventBridge::add(BridgedWindow window) {
+    windows_.push_back(std::move(window));
+    for (FieldRow& row : windows_.back().rows) {
+        watch(row);
+    }
+    pushAll();
+}
+
+void EventBridge::watch(FieldRow& row) {
+    row.widget->installEventFilter(this);
+    if (auto* const edit = qobject_cast<QLineEdit*>(row.widget)) {
+        edit->setMaxLength(any_length);
+    }
+    if (auto* const list = qobject_cast<QComboBox*>(row.widget)) {
+        list->lineEdit()->installEventFilter(this);
+        list->lineEdit()->setMaxLength(any_length);
+        // A typed text is no chosen entry, not even one that an entry equals.
+        disconnect(list->lineEdit(), &QLineEdit::editingFinished, list, nullptr);
+        connect(list->lineEdit(), &QLineEdit::textEdited, list, [list](const QString& typed) {
+            const int caret = list->lineEdit()->cursorPosition();
+            list->setCurrentIndex(-1);
+            list->setEditText(typed);
+            list->lineEdit()->setCursorPosition(caret);
+        });
+    }
+    if (auto* const button = qobject_cast<QPushButton*>(row.widget)) {
+        connect(button, &QPushButton::clicked, this, [this, &row] { press(row); });
+    }
+}
+
+void EventBridge::run(const std::function<void()>& handler) {
+    if (stopped_) {
+        return;
+    }
+    // An event within an event, at a message box say, finds the fields ahead of the windows.
+    if (!running_) {
+        pullAll();
+    }
+    const QScopedValueRollback<bool> guard(running_, true);
+    try {
+        handler();
+    } catch (const Failure& failure) {
+        stop();
+        failed_(toQString(failure.description()));
+        return;
+    } catch (const std::exception& fault) {
+        stop();
+        failed_(QStringLiteral("Erro interno: %1").arg(QString::fromUtf8(fault.what())));
+        return;
+    }
+    pushAll();
+}
+
+void EventBridge::pullAll() {
+    for (const BridgedWindow& window : windows_) {
+        for (const FieldRow& row : window.rows) {
+            if (row.pull) {
+                row.pull();
+            }
+        }
+    }
+}
+
+void EventBridge::pushAll() {
+    for (const BridgedWindow& window : windows_) {
+        for (const FieldRow& row : window.rows) {
+            row.push();
+        }
+        window.push();
+    }
+}
+
+EventBridge::Place EventBridge::placeOf(const QObject* widget) {
+    const QObject* const owner = ownerOf(widget);
+    for (BridgedWindow& window : windows_) {
+        for (FieldRow& row : window.rows) {
+            if (row.widget == owner) {
+                return {&window, &row};
+            }
+        }
+    }
+    return {};
+}
+
+QWidget& EventBridge::activeWindow() {
+    for (BridgedWindow& window : windows_) {
+        if (window.window->isActiveWindow()) {
+            current_ = &window;
+        }
+    }
+    if (current_ == nullptr || current_->window->isHidden()) {
+        current_ = &windows_.front();
+    }
+    return *current_->window;
+}
+
+QWidget* EventBridge::focusedWidget() {
+    return activeWindow().focusWidget();
+}
+
+void EventBridge::giveFocusTo(const TextField& field) {
+    for (const BridgedWindow& window : windows_) {
+        for (const FieldRow& row : window.rows) {
+            if (row.text_field == &field) {
+                row.widget->setFocus();
+            }
+        }
+    }
+}
+
+bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
+    const Place place = delivering_ || stopped_ ? Place{} : placeOf(watched);
+    FieldRow* const row = place.row;
+    if (row == nullptr) {
+        return false;
+    }
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        settleFocus();
+        return handleKey(place, *static_cast<QKeyEvent*>(event));
+    case QEvent::MouseButtonPress:
+        // The arrow of a list opens it with what the field before it has loaded, unless that hides
+        // it. Elsewhere the entering event comes behind the click, and what it selects stays.
+        if (qobject_cast<QComboBox*>(watched) != nullptr) {
+            settleFocus();
+        }
+        return row->widget->isHidden();
+    case QEvent::InputMethod:
+        settleFocus();
+        return handleComposed(*row, *static_cast<QInputMethodEvent*>(event));
+    case QEvent::MouseButtonDblClick:
+        if (row->dblclick && isOn(*row->widget, *static_cast<QMouseEvent*>(event))) {
+            settleFocus();
+            run(row->dblclick);
+        }
+        return false;
+    case QEvent::Wheel:
+        // A list that has no focus takes no turns.
+        return !row->widget->hasFocus();
+    default:
+        return false;
+    }
+}
+
+// The field that has the focus gets its entering event, the one before its leaving event. A handler
+// that moves the focus is followed by one more turn.
+void EventBridge::settleFocus() {
+    while (!running_ && !stopped_) {
+        FieldRow* const focused = placeOf(focusedWidget()).row;
+        if (focused == active_) {
+            return;
+        }
+        FieldRow* const left = std::exchange(active_, focused);
+        if (left != nullptr && left->leave) {
+            run(left->leave);
+        }
+        if (active_ != nullptr && active_->enter) {
+            run(active_->enter);
+        }
+    }
+}
+
+void EventBridge::moveFocus() {
+    if (const TextField* const target = focus_.takeTarget()) {
+        giveFocusTo(*target);
+    }
+    const int steps = focus_.takeSteps();
+    for (int i = 0; i < std::abs(steps); ++i) {
+        QKeyEvent tab(QEvent::KeyPress, steps > 0 ? Qt::Key_Tab : Qt::Key_Backtab,
+                      steps > 0 ? Qt::NoModifier : Qt::ShiftModifier);
+        if (QWidget* const focused = focusedWidget()) {
+            deliver(*focused, tab);
+        }
+    }
+    settleFocus();
+}
+
+// However a command was pressed, it takes the focus first, so that the field that the operator was
+// in has had its leaving event. That event may hide the command.
+void EventBridge::press(FieldRow& row) {
+    row.widget->setFocus();
+    settleFocus();
+    if (!row.widget->isHidden()) {
+        run(row.click);
+        moveFocus();
+    }
+}
+
+bool EventBridge::handleKey(const Place& place, const QKeyEvent& event) {
+    if (isMnemonic(event) || repeatsCommand(*place.row, event)) {
+        return true;
+    }
+    const bool walked = handleWindowKey(place, event);
+    const bool swallowed = handleCharacter(*place.row, event);
+    moveFocus();
+    return walked || swallowed;
+}
+
+// True when the key walked to another field. Enter on a command presses it instead, and the focus
+// stays, so that one more Enter prints the next item. The arrow keys walk through the entries of a
+// list.
+bool EventBridge::handleWindowKey(const Place& place, const QKeyEvent& event) {
+    const KeyCode code = walkingKey(event);
+    const bool presses = code == key::enter && place.row->click;
+    const bool walks_list =
+        code != key::enter && qobject_cast<const QComboBox*>(place.row->widget) != nullptr;
+    if (code == key::none || presses || walks_list || !place.window->keydown) {
+        return false;
+    }
+    bool taken = false;
+    run([&] { taken = place.window->keydown(code); });
+    return taken;
+}
+
+// True when the widget must not see the key any more.
+bool EventBridge::handleCharacter(FieldRow& row, const QKeyEvent& event) {
+    const KeyCode typed = characterOf(event);
+    if (!row.key || typed == key::none) {
+        return false;
+    }
+    const KeyCode key = filtered(row, typed);
+    if (key == typed) {
+        return typed == key::enter; // the handler has done all that Enter does
+    }
+    if (key != key::none) {
+        QKeyEvent changed(event.type(), event.key(), event.modifiers(), QString(QChar(key)));
+        deliver(*row.widget, changed);
+    }
+    return true;
+}
+
+// An accent and its letter, or another composed text, comes in one piece: each character of it
+// passes as a key of its own.
+bool EventBridge::handleComposed(FieldRow& row, const QInputMethodEvent& event) {
+    if (!row.key || event.commitString().isEmpty()) {
+        return false;
+    }
+    QString passed;
+    for (const QChar character : event.commitString()) {
+        const KeyCode key = filtered(row, character.unicode());
+        if (key != key::none) {
+            passed.append(QChar(key));
+        }
+    }
+    QInputMethodEvent changed;
+    changed.setCommitString(passed, event.replacementStart(), event.replacementLength());
+    deliver(*row.widget, changed);
+    return true;
+}
+
+KeyCode EventBridge::filtered(FieldRow& row, KeyCode key) {
+    KeyCode result = key;
+    run([&] { result = row.key(key); });
+    return result;
+}
+
+void EventBridge::deliver(QWidget& widget, QEvent& event) {
+    const QScopedValueRollback<bool> guard(delivering_, true);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+} // namespace etiquetas

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "desktop/windows/FieldMirror.h"
+#include "platform/Keys.h"
+
+#include <QObject>
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+class QInputMethodEvent;
+class QKeyEvent;
+class QWidget;
+
+namespace etiquetas {
+
+class QtFocus;
+
+/// A window of the program, and what it has to do with the fields.
+struct BridgedWindow {
+    QWidget* window = nullptr;
+    std::vector<FieldRow> rows;
+    /// Shows what the window as a whole tells of the fields: its title, whether it is open.
+    std::function<void()> push;
+    /// The window's look at a key that walks through the fields; tells whether it took the key.
+    /// Empty where it takes none.
+    std::function<bool(KeyCode)> keydown;
+};
+
+/// Turns what happens to the widgets of the windows into the events of their fields.
+///
+/// Before a handler runs, the fields take what the operator typed; after it, the windows show what
+/// they hold. A change of focus becomes one leaving and one entering event, which run before the
+/// next key or command and never twice, whatever message box a leaving event shows.
+class EventBridge final : public QObject {
+    Q_OBJECT
+
+  public:
+    /// What is told of a failure that no handler caught; the bridge runs nothing more after it.
+    using Failed = std::function<void(const QString& description)>;
+
+    /// `focus` must outlive the bridge.
+    EventBridge(QtFocus& focus, Failed failed);
+
+    /// Takes a window over, the main window first. It must outlive the bridge.
+    void add(BridgedWindow window);
+
+    /// Runs a handler as an event of the program.
+    void run(const std::function<void()>& handler);
+    /// Shows what the fields hold.
+    void pushAll();
+    /// The window that is active, or was so last: another program's window and a message box don't
+    /// count.
+    [[nodiscard]] QWidget& activeWindow();
+    /// No event runs any more.
+    void stop() { stopped_ = true; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    // A row and the window that it stands in; nothing for a widget of neither.
+    struct Place {
+        BridgedWindow* window = nullptr;
+        FieldRow* row = nullptr;
+    };
+
+    void watch(FieldRow& row);
+    void pullAll();
+    [[nodiscard]] Place placeOf(const QObject* widget);
+    [[nodiscard]] QWidget* focusedWidget();
+    void giveFocusTo(const TextField& field);
+
+    void settleFocus();
+    void moveFocus();
+    void press(FieldRow& row);
+    bool handleKey(const Place& place, const QKeyEvent& event);
+    bool handleWindowKey(const Place& place, const QKeyEvent& event);
+    bool handleCharacter(FieldRow& row, const QKeyEvent& event);
+    bool handleComposed(FieldRow& row, const QInputMethodEvent& event);
+    [[nodiscard]] KeyCode filtered(FieldRow& row, KeyCode key);
+    void deliver(QWidget& widget, QEvent& event);
+
+    QtFocus& focus_;
+    Failed failed_;
+    std::deque<BridgedWindow> windows_; // which stay where they are
+    BridgedWindow* current_ = nullptr;  // the one that was active last
+    FieldRow* active_ = nullptr;        // the field that has had its entering event
+    bool running_ = false;
+    bool delivering_ = false;
+    bool stopped_ = false;
+};
+
+} // namespace etiquetas

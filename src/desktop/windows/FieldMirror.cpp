@@ -1,0 +1,204 @@
+#include "desktop/windows/FieldMirror.h"
+
+#include "desktop/machine/QtText.h"
+
+#include <QColor>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPalette>
+#include <QPixmap>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <memory>
+
+namespace etiquetas {
+
+namespace {
+
+// `isVisible` asks the parents too; what counts is what the widget itself was told.
+void showOrHide(QWidget& widget, bool visible) {
+    if (widget.isHidden() == visible) {
+        widget.setVisible(visible);
+    }
+}
+
+void pushCaption(QLabel* label, const Text& caption, bool visible) {
+    if (label != nullptr) {
+        label->setTextFormat(Qt::PlainText); // an order may hold anything, markup among it
+        label->setText(toQString(caption));
+        showOrHide(*label, visible);
+    }
+}
+
+Selection selectionOf(const QLineEdit& edit) {
+    if (!edit.hasSelectedText()) {
+        return {static_cast<std::size_t>(edit.cursorPosition()), 0};
+    }
+    return {static_cast<std::size_t>(edit.selectionStart()),
+            static_cast<std::size_t>(edit.selectionLength())};
+}
+
+// A text that a handler made shorter leaves its selection behind the end.
+void select(QLineEdit& edit, const Selection& selection) {
+    const auto length = static_cast<std::size_t>(edit.text().size());
+    const Selection inside{std::min(selection.start, length), selection.length};
+    if (!(selectionOf(edit) == inside)) {
+        edit.setSelection(static_cast<int>(inside.start), static_cast<int>(inside.length));
+    }
+}
+
+void colourBackground(QWidget& widget, const Colour& colour) {
+    const QColor wanted(colour.red, colour.green, colour.blue);
+    if (widget.palette().color(QPalette::Base) != wanted) {
+        QPalette palette = widget.palette();
+        palette.setColor(QPalette::Base, wanted);
+        widget.setPalette(palette);
+    }
+}
+
+// A locked field shows that it is one.
+Colour shownColour(const TextField& field) {
+    constexpr Colour light_grey{240, 240, 240};
+    return field.locked && field.back_colour == white ? light_grey : field.back_colour;
+}
+
+void pushEdit(QLineEdit& edit, const TextField& field) {
+    const QString text = toQString(field.text);
+    if (edit.text() != text) {
+        edit.setText(text);
+    }
+    select(edit, field.selection);
+    edit.setReadOnly(field.locked);
+    edit.setToolTip(toQString(field.tooltip));
+    colourBackground(edit, shownColour(field));
+    showOrHide(edit, field.visible);
+}
+
+void pullList(const QComboBox& box, ListField& field) {
+    const int at = box.currentIndex();
+    const bool chosen = at >= 0 && box.itemText(at) == box.currentText();
+    field.text = toText(box.currentText());
+    field.position = chosen ? at : -1;
+}
+
+// An item list may hold many thousands of entries; they are handed over only when they changed.
+void pushEntries(QComboBox& box, const ListField& field, std::vector<Text>& shown) {
+    if (field.entries == shown) {
+        return;
+    }
+    QStringList entries;
+    entries.reserve(static_cast<qsizetype>(field.entries.size()));
+    for (const Text& entry : field.entries) {
+        entries.append(toQString(entry));
+    }
+    box.clear();
+    box.addItems(entries);
+    shown = field.entries;
+}
+
+void pushList(QComboBox& box, const ListField& field, std::vector<Text>& shown) {
+    const QSignalBlocker quiet(box);
+    pushEntries(box, field, shown);
+    if (box.currentIndex() != field.position) {
+        box.setCurrentIndex(field.position);
+    }
+    const QString text = toQString(field.text);
+    if (box.currentText() != text) {
+        box.setEditText(text);
+    }
+    showOrHide(box, field.visible);
+}
+
+// Sharp on a screen of any scale.
+QPixmap pixmapOf(const Raster& raster, const QLabel& label) {
+    const qreal dots = label.devicePixelRatioF();
+    const QSize room = label.contentsRect().size() * dots;
+    QImage image(raster.width, raster.height, QImage::Format_RGB32);
+    for (int y = 0; y < raster.height; ++y) {
+        for (int x = 0; x < raster.width; ++x) {
+            image.setPixel(x, y, raster.at(x, y));
+        }
+    }
+    const bool larger = image.width() > room.width() || image.height() > room.height();
+    if (larger) {
+        image = image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        image.setDevicePixelRatio(dots);
+    }
+    return QPixmap::fromImage(image);
+}
+
+} // namespace
+
+FieldRow mirrored(QLineEdit& edit, QLabel* caption, TextField& field) {
+    FieldRow row;
+    row.widget = &edit;
+    row.text_field = &field;
+    row.pull = [&edit, &field] {
+        field.text = toText(edit.text());
+        field.selection = selectionOf(edit);
+    };
+    row.push = [&edit, caption, &field] {
+        pushEdit(edit, field);
+        pushCaption(caption, field.caption, field.visible);
+    };
+    return row;
+}
+
+FieldRow mirrored(QComboBox& box, QLabel* caption, ListField& field) {
+    FieldRow row;
+    row.widget = &box;
+    row.pull = [&box, &field] { pullList(box, field); };
+    row.push = [&box, caption, &field, shown = std::make_shared<std::vector<Text>>()] {
+        pushList(box, field, *shown);
+        pushCaption(caption, field.caption, field.visible);
+    };
+    return row;
+}
+
+FieldRow mirrored(QLabel& label, Label& field) {
+    FieldRow row;
+    row.widget = &label;
+    row.push = [&label, &field] { pushCaption(&label, field.caption, field.visible); };
+    return row;
+}
+
+FieldRow mirrored(QLabel& label, PictureField& field) {
+    FieldRow row;
+    row.widget = &label;
+    row.push = [&label, &field, shown = std::make_shared<Picture>()] {
+        if (field.picture != *shown) {
+            label.setPixmap(field.picture ? pixmapOf(*field.picture, label) : QPixmap());
+            *shown = field.picture;
+        }
+        showOrHide(label, field.visible);
+    };
+    return row;
+}
+
+FieldRow mirrored(QGroupBox& box, Panel& field) {
+    FieldRow row;
+    row.widget = &box;
+    row.push = [&box, &field] {
+        box.setTitle(toQString(field.caption));
+        showOrHide(box, field.visible);
+    };
+    return row;
+}
+
+FieldRow mirrored(QPushButton& button, Command& field) {
+    FieldRow row;
+    row.widget = &button;
+    row.push = [&button, &field] {
+        button.setText(toQString(field.caption));
+        button.setToolTip(toQString(field.tooltip));
+        showOrHide(button, field.visible);
+    };
+    return row;
+}
+
+} // namespace etiquetas

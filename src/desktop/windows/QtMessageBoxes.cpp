@@ -1,0 +1,75 @@
+#include "desktop/windows/QtMessageBoxes.h"
+
+#include "desktop/machine/QtText.h"
+
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <utility>
+
+namespace etiquetas {
+
+namespace {
+
+QMessageBox::Icon iconOf(Symbol symbol) {
+    switch (symbol) {
+    case Symbol::stop:
+        return QMessageBox::Critical;
+    case Symbol::question:
+        return QMessageBox::Question;
+    case Symbol::exclamation:
+        return QMessageBox::Warning;
+    case Symbol::none:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+// The key that brought a box up, and is still held down, must not answer it.
+class HeldKeys final : public QObject {
+  public:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat();
+    }
+};
+
+void ask(QMessageBox& box) {
+    HeldKeys held;
+    for (QAbstractButton* const button : box.buttons()) {
+        button->installEventFilter(&held);
+    }
+    box.exec();
+}
+
+} // namespace
+
+void QtMessageBoxes::standOver(std::function<QWidget*()> window, std::function<void()> before_box) {
+    window_ = std::move(window);
+    before_box_ = std::move(before_box);
+}
+
+Answer QtMessageBoxes::show(const Message& message) {
+    before_box_();
+    QMessageBox box(window_());
+    box.setIcon(iconOf(message.symbol));
+    box.setWindowTitle(toQString(message.title.empty() ? default_title : message.title));
+    // File names and order texts may hold anything, markup among it.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(toQString(message.text));
+    if (message.buttons == Buttons::ok) {
+        box.addButton(QMessageBox::Ok);
+        ask(box);
+        return Answer::ok;
+    }
+    QPushButton* const yes = box.addButton(QMessageBox::Yes);
+    QPushButton* const no = box.addButton(QMessageBox::No);
+    yes->setText(QStringLiteral("&Sim"));
+    no->setText(QStringLiteral("&Não"));
+    box.setDefaultButton(yes);
+    box.setEscapeButton(no);
+    ask(box);
+    return box.clickedButton() == yes ? Answer::yes : Answer::no;
+}
+
+} // namespace etiquetas

@@ -1,0 +1,88 @@
+#include "labels/JobSetup.h"
+
+#include "base/Failure.h"
+#include "base/Numbers.h"
+#include "config/Settings.h"
+#include "labels/PriceBlock.h"
+#include "platform/PrintSurface.h"
+#include "platform/Printers.h"
+
+namespace etiquetas {
+
+bool SelecionaImpressora(FrmPadrao& form, TextView name) {
+    Printers& printers = form.platform.printers;
+    const auto names = printers.names();
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (names[i] == name) {
+            printers.makeCurrent(i);
+            return true;
+        }
+    }
+    return false;
+}
+
+void selectChosenPrinter(FrmPadrao& form) {
+    skip([&] { SelecionaImpressora(form, form.CMBPRINTER.text); });
+}
+
+void useMillimetres(FrmPadrao& form) {
+    skip([&] { form.platform.surface.ScaleMode(ScaleMode::millimetres); });
+}
+
+void setPage(FrmPadrao& form, const PageSize& page) {
+    PrintSurface& surface = form.platform.surface;
+    skip([&] { surface.PaperSize(user_defined_paper); });
+    skip([&] { surface.Width(page.width); });
+    skip([&] { surface.Height(page.height); });
+}
+
+void readMargins(FrmPadrao& form, std::span<const Margin> margins) {
+    const Files& files = form.platform.files;
+    const Text file = settingsPath(files);
+    const bool file_exists = files.fileExists(file);
+    for (const Margin& margin : margins) {
+        if (!file_exists) {
+            form.*margin.variable = margin.default_value;
+            continue;
+        }
+        // A key without a number leaves the variable alone: its default is for a missing file only.
+        skip([&] {
+            form.*margin.variable =
+                toSingle(LeIni(files, file, ini_section::margens, margin.key, {}));
+        });
+    }
+}
+
+void useLabelFont(FrmPadrao& form) {
+    skip([&] { form.platform.surface.FontName(form.NomeFonte); });
+}
+
+void chooseBanner(FrmPadrao& form) {
+    form.marca_logo = left(form.LBLBRISAKO.caption, 1) == u"L" ? u"L" : u"B";
+}
+
+void endJob(FrmPadrao& form) {
+    skip([&] { form.platform.surface.EndDoc(); });
+    skip([&] { SelecionaImpressora(form, form.lblprinterdefault.caption); });
+}
+
+void fillMissingPrice(FrmPadrao& form) {
+    if (isBlank(form.txtpreco.text)) {
+        form.txtpreco.text = sem_preco;
+    }
+}
+
+TextView ref3(const FrmPadrao& form) {
+    constexpr std::size_t length = 3;
+    return right(form.txtcodigo.text, length);
+}
+
+Text descricao_cor(const FrmPadrao& form) {
+    return Text(trimmed(form.txtdescricao.text)).append(u" ").append(trimmed(form.txtcor.text));
+}
+
+bool hasLogos(const FrmPadrao& form) {
+    return form.LogoBrisakoOk && form.LogoLumiraOk;
+}
+
+} // namespace etiquetas
