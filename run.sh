@@ -5,16 +5,6 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
-# Lays out an installation: the program, the logos, the photographs and the sample orders. A newer
-# file that is there already stays; settings that are there are never touched.
-lay_out() {
-    mkdir -p "$1/imagens"
-    cp --update --preserve=timestamps --remove-destination build/run/bin/etiquetas "$1/"
-    cp --update --preserve=timestamps samples/*.jpg samples/*.txt "$1/"
-    cp --update --preserve=timestamps samples/imagens/*.jpg "$1/imagens/"
-    [ -e "$1/Varesko.ini" ] || cp samples/Varesko.ini "$1/"
-}
-
 scripts/install_packages.sh run
 
 echo "== Building the program"
@@ -22,7 +12,7 @@ cmake --preset run
 cmake --build --preset run --parallel "$(nproc)"
 
 echo "== Laying out build/instalacao"
-lay_out build/instalacao
+cmake --install build/run --prefix build/instalacao > /dev/null
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     echo "== Opening the Workbench in build/instalacao"
@@ -31,7 +21,7 @@ fi
 
 echo "== No display: printing every label kind through the window, headless, into build/demo"
 rm -rf build/demo
-lay_out build/demo/instalacao
+cmake --install build/run --prefix build/demo/instalacao > /dev/null
 QT_QPA_PLATFORM=offscreen build/run/bin/etiquetas_demo build/demo/instalacao build/demo
 
 echo "== Turning the label pages into pictures, as a printer of 203 dpi sees them"

@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for a purpose: "run" (build the program and run it),
-# "test" (build and run the tests as well) or "bench" (build and run the benchmarks). With nothing missing it only looks, and is quick.
+# "test" (build and run the tests as well), "check" (look at form and style, and build with Clang) or
+# "bench" (build and run the benchmarks). With nothing missing it only looks, and is quick.
 set -euo pipefail
 
 case "${1:-}" in
-    run | test | bench) purpose=$1 ;;
+    run | test | check | bench) purpose=$1 ;;
     *)
-        echo "usage: ${0##*/} run|test|bench" >&2
+        echo "usage: ${0##*/} run|test|check|bench" >&2
         exit 2
         ;;
 esac
@@ -23,6 +24,11 @@ if [ "$purpose" = test ]; then
         zbar-tools mupdf-tools    # readers of the printed bars and pages
         fontconfig                # where the fonts are
         xvfb xauth                # a display for the real window
+    )
+elif [ "$purpose" = check ]; then
+    packages+=(
+        clang clang-format clang-tidy # the other compiler, form and style
+        libgtest-dev libgmock-dev libbenchmark-dev
     )
 elif [ "$purpose" = bench ]; then
     packages+=(libbenchmark-dev)
