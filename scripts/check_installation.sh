@@ -22,7 +22,7 @@ for file in etiquetas brisako.jpg lumira.jpg Varesko.ini imagens/3104527.jpg; do
 done
 
 mkdir "$place/printed"
-QT_QPA_PLATFORM=offscreen "$build/demo/etiquetas_demo" "$installation" "$place/printed" > /dev/null
+QT_QPA_PLATFORM=offscreen "$(find "$build" -name etiquetas_demo -type f | head -1)" "$installation" "$place/printed" > /dev/null
 printed=$(find "$place/printed" -name '*.pdf' | wc -l)
 [ "$printed" -eq 10 ] || fail "$printed of 10 jobs came out: five label kinds for two banners"
 
