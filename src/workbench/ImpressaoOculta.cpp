@@ -2,7 +2,7 @@
 #include "labels/Cabecalho.h"
 #include "labels/Oculta.h"
 #include "model/LabelCounts.h"
-#include "workbench/ImpressaoRamos.h"
+#include "workbench/ImpressaoComum.h"
 
 namespace etiquetas {
 
@@ -19,7 +19,7 @@ Course checkQuantity(FrmPadrao& form) {
 
 void drawSize(FrmPadrao& form, std::size_t slot) {
     const std::int16_t pairs = toInteger16(form.txtnumero[slot].text);
-    Imprime_Oculta_40_20_2(form, form.marca_logo, trimmed(form.txtdescricao.text), ref3(form),
+    Imprime_Oculta_40_20_2(form, form.marca_logo, trimmed(form.txtdescricao.text), endOfCode(form),
                            form.lblmaster.caption, form.lblbarra.caption, form.Label7[slot].caption,
                            toInteger16(pairs * hidden_labels_per_pair), form.txtcor.text);
 }
@@ -34,11 +34,12 @@ Course printSize(FrmPadrao& form, std::size_t slot) {
 
 } // namespace
 
-Course printHiddenLabels(FrmPadrao& form) {
+Course printHiddenLabels(FrmPadrao& form, const Stock& stock) {
     if (askAboutColour(form, form.txtcor) == Course::ends || checkQuantity(form) == Course::ends) {
         return Course::ends;
     }
-    beginJob40x20(form);
+    form.coluna_etiqueta = 1;
+    beginJob(form, stock);
     if (form.Frame2.visible) {
         skip([&] { Imprime_CabecAlho(form, u"OCULTA"); });
     }

@@ -11,6 +11,7 @@
 #include "platform/MessageBoxes.h"
 #include "platform/Printers.h"
 #include "support/ModAddFonte.h"
+#include "workbench/LabelKinds.h"
 
 namespace etiquetas {
 
@@ -91,9 +92,10 @@ void loadLogos(FrmPadrao& form) {
 
 void fillKinds(FrmPadrao& form) {
     form.cmbtipo.clear();
-    for (const TextView kind :
-         {tipo::frente_de_caixa, tipo::corrugado, tipo::acessorio, tipo::oculta}) {
-        form.cmbtipo.entries.emplace_back(kind);
+    for (const LabelKind& kind : labelKinds()) {
+        if (kind.offered) {
+            form.cmbtipo.entries.emplace_back(kind.name);
+        }
     }
     form.cmbtipo.choose(0);
 }
