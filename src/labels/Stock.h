@@ -9,13 +9,12 @@
 
 namespace etiquetas {
 
-/// A margin of a stock, millimetres: its key in the settings file, the variable that it fills, its
-/// default in whole millimetres, and where its dialog has it typed in.
+/// A margin of a stock, millimetres.
 struct Margin {
-    TextView key;
-    float FrmPadrao::*variable;
+    TextView key;               // in the settings file
+    float FrmPadrao::*variable; // that the renderers read
     int default_value;
-    MarginEntry entry;
+    MarginEntry entry = {};                  // in the dialog that calibrates it
     float FrmPadrao::*rule_origin = nullptr; // takes the margin of a test print too
 };
 
@@ -67,7 +66,8 @@ inline constexpr std::array<Margin, 2> margins_carton{{
 inline constexpr Stock stock_carton{PageSize{9000, 9000}, margins_carton,
                                     &FrmPadrao::FrmMargensPackZPL};
 
-/// Box front labels with a photograph, 100 by 40 mm, one across. Nothing of them is stored.
+/// Box front labels with a photograph, 100 by 40 mm, one across. The page is the printer's own,
+/// and no margin is stored.
 inline constexpr Stock stock_100x40{};
 
 } // namespace etiquetas

@@ -95,7 +95,7 @@ void drawCarton(FrmPadrao& form) {
     });
 }
 
-// What is looked at once all margins are there. True where the test goes on.
+// What a test print checks once all margins are typed in. True where it goes on.
 
 bool beginStrip40x20(FrmPadrao& form) {
     form.coluna_etiqueta = 1;

@@ -38,6 +38,7 @@ struct FrmPadrao {
 
     // Order selection
     Panel Frame4{u"Selecione o Pedido"};
+    /// As designed: the start-up fills it from the table of label kinds.
     ListField cmbtipo{Text(tipo::frente_de_caixa),
                       u"Tipo de Etiqueta",
                       {Text(tipo::frente_de_caixa), Text(tipo::corrugado), Text(tipo::acessorio),
@@ -140,13 +141,13 @@ struct FrmPadrao {
     ListField cmbintensidade{.caption = u"Intensidade", .visible = false};
     ListField cmbvelocidade{.caption = u"Velocidade", .visible = false};
 
-    // Dialogs. They stand beside the Workbench, which stays usable behind them
+    // Dialogs. The Workbench stays usable while they are open
     MargensDialog FrmMargensOcultaZPL2 = designOfHiddenMargins();
     MargensDialog FrmMargensCxZPL45 = designOfBoxFrontMargins();
     MargensDialog FrmMargensPackZPL = designOfCartonMargins();
     ParametroDialog FrmParametroImpressora;
-    /// True from the first time on that the parameter dialog was activated: only then it shows what
-    /// is stored. Opened again it shows its fields as designed.
+    /// True once the parameter dialog has been activated. Only the first activation of a run shows
+    /// what is stored; opened again, the dialog shows its fields as designed.
     bool ParametrosCarregados = false;
 
     // Margins, millimetres; each job reads its own from the settings file

@@ -4,7 +4,7 @@
 
 namespace etiquetas {
 
-/// Hidden labels that one pair of shoes takes: one for each shoe.
+/// Hidden labels that one pair takes.
 inline constexpr std::int32_t hidden_labels_per_pair = 2;
 
 } // namespace etiquetas

@@ -37,8 +37,8 @@ struct MargensDialog {
 
 /// Where a margin is typed in, and the label that shows its default; the top margin has none.
 struct MarginEntry {
-    TextField MargensDialog::*field;
-    Label MargensDialog::*default_label;
+    TextField MargensDialog::*field = nullptr;
+    Label MargensDialog::*default_label = nullptr;
 };
 
 namespace margin_entry {

@@ -114,18 +114,18 @@ void readSettings(FrmPadrao& form) {
     if (!files.fileExists(file)) {
         return;
     }
-    const auto le = [&](TextView section, TextView key) {
+    const auto read = [&](TextView section, TextView key) {
         return LeIni(files, file, section, key, {});
     };
-    form.txtcliente.text = le(ini_section::config, u"Referencia");
-    form.txtlote.text = le(ini_section::config, u"Lote");
-    form.txtarquivo.text = le(ini_section::config, u"arquivo");
-    form.lbloculta.caption = le(ini_section::impressora, u"TipoOculta");
+    form.txtcliente.text = read(ini_section::config, config_key::company);
+    form.txtlote.text = read(ini_section::config, config_key::addition);
+    form.txtarquivo.text = read(ini_section::config, config_key::order);
+    form.lbloculta.caption = read(ini_section::impressora, printer_key::hidden_format);
     if (isBlank(form.lbloculta.caption)) {
-        form.lbloculta.caption = u"3";
+        form.lbloculta.caption = default_hidden_format;
     }
-    form.lblcompartilhamento.caption = le(ini_section::impressora, u"NomeCompartilhamento");
-    form.lblpath.caption = le(ini_section::impressora, u"Path");
+    form.lblcompartilhamento.caption = read(ini_section::impressora, printer_key::share);
+    form.lblpath.caption = read(ini_section::impressora, printer_key::order_folder);
 }
 
 Text versionText() {
@@ -141,7 +141,6 @@ void FrmPadrao_load(FrmPadrao& form) {
     form.tem_imagem = false;
     OCULTA_ITENS(form);
     loadLogos(form);
-    // The two item panels stand one over the other; the window lays them out so.
     fillKinds(form);
     FrmPadrao_resize(form);
     form.lblpath.caption = form.platform.files.programFolder();

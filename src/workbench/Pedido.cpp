@@ -70,8 +70,8 @@ void warn(FrmPadrao& form, Text message) {
         {.text = std::move(message), .symbol = Symbol::exclamation, .title = u"ATENÇÃO!!!"});
 }
 
-// The bytes of the order's file as text; empty, and reported, where there is nothing to read. The
-// name is put in upper case, and reaches the file whatever the case of its own.
+// The order's file as text; empty, and reported, where there is nothing to read. The upper-case
+// name finds the file whatever the case of its own name.
 Text readOrder(FrmPadrao& form, TextView name) {
     const Files& files = form.platform.files;
     const auto path = findFile(files, form.lblpath.caption, upperCase(name));
@@ -194,7 +194,8 @@ void carrega_pedido(FrmPadrao& form) {
         return;
     }
     Files& files = form.platform.files;
-    GravaIni(files, ini_section::config, u"arquivo", form.txtarquivo.text, settingsPath(files));
+    GravaIni(files, ini_section::config, config_key::order, form.txtarquivo.text,
+             settingsPath(files));
     showPanel(form, *family);
     const Text order = readOrder(form, name);
     if (order.empty()) {
