@@ -49,20 +49,20 @@ class PaperWorkbench {
 };
 
 void drawHidden(FrmPadrao& form, std::int16_t labels) {
-    setPage(form, pagina_oculta);
+    setPage(form, stock_40x20);
     Imprime_Oculta_40_20_2(form, u"L", u"TÊNIS CASUAL FEMININO CANO BAIXO", u"527", u"3104527001",
                            u"2310452701003", u"33", labels, u"CAFÉ");
 }
 
 void drawBoxFronts(FrmPadrao& form, std::int16_t labels) {
-    setPage(form, pagina_caixa);
+    setPage(form, stock_40x45);
     Text description = u"TÊNIS CASUAL FEMININO CANO BAIXO";
     Imprime_40_45_2(form, u"L", description, u"CAFÉ", u"527", u"3104527001", u"2310452701003",
                     u"33", u"139,99", labels, u"A1", u"32/26", u"LU");
 }
 
 void drawCartons(FrmPadrao& form, std::int16_t labels) {
-    setPage(form, pagina_pack);
+    setPage(form, stock_carton);
     EtiPack(form, u"L", u"PEDRA MANSA", u"1400050831", u"3104527001", u"CALÇADOS UMBAÍRA",
             u"TÊNIS CASUAL FEMININO CANO BAIXO", u"CAFÉ", u"2310452701997", {}, {}, u"12", 1,
             labels, u"32/26");

@@ -75,7 +75,7 @@ class Reader {
         }
     }
 
-    // One sign or one "R$", each once in a number, and the blanks behind it.
+    // One sign or one "R$", each once in a number, and the blanks after it.
     bool signOrCurrency() {
         if (!currency_ && rest_.substr(0, 2) == u"R$") {
             rest_.remove_prefix(2);
@@ -108,13 +108,13 @@ class Reader {
         return digit_seen;
     }
 
-    void addDigit(char16_t character, bool behind_comma) {
+    void addDigit(char16_t character, bool after_comma) {
         if (character == u'0' && decimal_.digits.empty()) {
-            decimal_.point -= behind_comma ? 1 : 0;
+            decimal_.point -= after_comma ? 1 : 0;
             return;
         }
         decimal_.digits.push_back(static_cast<char>(character));
-        decimal_.point += behind_comma ? 0 : 1;
+        decimal_.point += after_comma ? 0 : 1;
     }
 
     bool exponent() {
@@ -189,7 +189,7 @@ Decimal decimalOf(TextView text) {
     return *std::move(decimal);
 }
 
-// True when the digits behind the decimal mark round the whole number before it up in size.
+// True when the digits after the decimal comma round the whole number before it away from zero.
 bool roundsUp(const Decimal& decimal, std::int32_t whole) {
     if (decimal.point < 0) {
         return false;

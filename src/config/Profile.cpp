@@ -83,7 +83,7 @@ class Lines {
         return Line{withoutBlanks(file_.substr(start, end - start)), start, at_};
     }
 
-    // Goes on behind the line that opens the section; false where there is none.
+    // Moves past the line that opens the section, and returns it; nothing where there is none.
     std::optional<Line> findSection(std::string_view section) {
         auto line = next();
         while (line && !(line->isSection() && sameName(line->sectionName(), section))) {
@@ -145,14 +145,14 @@ std::string withProfileValue(std::string_view file, std::string_view section, st
         lines_to_add.append(section).append("]").append(line_end).append(keyLine(key, value));
         return spliced(file, file.size(), file.size(), lines_to_add);
     }
-    std::size_t behind_last_key = header->next;
+    std::size_t after_last_key = header->next;
     for (auto line = lines.next(); line && !line->isSection(); line = lines.next()) {
         if (line->isKey() && sameName(line->key(), key)) {
             return spliced(file, line->start, line->next, keyLine(line->key(), value));
         }
-        behind_last_key = line->isKey() ? line->next : behind_last_key;
+        after_last_key = line->isKey() ? line->next : after_last_key;
     }
-    return spliced(file, behind_last_key, behind_last_key, keyLine(key, value));
+    return spliced(file, after_last_key, after_last_key, keyLine(key, value));
 }
 
 } // namespace etiquetas

@@ -3,6 +3,7 @@
 #include "base/CodePage.h"
 #include "base/Failure.h"
 #include "config/Profile.h"
+#include "config/ProgramFiles.h"
 
 #include <array>
 
@@ -10,21 +11,21 @@ namespace etiquetas {
 
 namespace {
 
-constexpr TextView nome_ini = u"Varesko.ini";
-
-struct Ajuste {
-    TextView chave;
-    TextView valor;
+struct FirstValue {
+    TextView key;
+    TextView value;
 };
 
 // The serial rate stands as "9800" on purpose: it is only stored.
-constexpr std::array<Ajuste, 7> ajustes_da_impressora{{{u"Linguagem", u"ZPL"},
-                                                       {u"Porta", u"Paralela"},
-                                                       {u"PortaSerial", u"Com1"},
-                                                       {u"ConfiguracaoPortaSerial", u"9800,N,8,1"},
-                                                       {u"PortaParalela", u"LPT1"},
-                                                       {u"PortaParalelaUSB", u"LPT1"},
-                                                       {u"NomeCompartilhamento", u"Zebra"}}};
+constexpr std::array<FirstValue, 7> first_printer_values{{
+    {printer_key::language, u"ZPL"},
+    {printer_key::port, u"Paralela"},
+    {printer_key::serial_port, u"Com1"},
+    {printer_key::serial_settings, u"9800,N,8,1"},
+    {printer_key::parallel_port, u"LPT1"},
+    {printer_key::usb_port, u"LPT1"},
+    {printer_key::share, u"Zebra"},
+}};
 
 // All bytes of the file; none where it is missing or can't be read.
 std::string bytesOf(const Files& files, TextView file) {
@@ -37,8 +38,8 @@ std::string bytesOf(const Files& files, TextView file) {
 
 Text settingsPath(const Files& files) {
     const Text folder = files.programFolder();
-    const auto found = findFile(files, folder, nome_ini);
-    return found ? *found : joined(files, folder, nome_ini);
+    const auto found = findFile(files, folder, settings_file);
+    return found ? *found : joined(files, folder, settings_file);
 }
 
 Text LeIni(const Files& files, TextView file, TextView section, TextView key,
@@ -58,24 +59,24 @@ void GravaIni(Files& files, TextView section, TextView key, TextView value, Text
 }
 
 void deleteCommandFile(Files& files) {
-    const Text comando = joined(files, files.programFolder(), u"IMPRIMIR.BAT");
+    const Text path = joined(files, files.programFolder(), command_file);
     skip([&] {
-        if (files.fileExists(comando)) {
-            files.deleteFile(comando);
+        if (files.fileExists(path)) {
+            files.deleteFile(path);
         }
     });
 }
 
 void gera_ini_base(Files& files, TextView /*file*/) {
     const Text file = settingsPath(files);
-    const auto grava = [&](TextView chave, TextView valor) {
-        GravaIni(files, ini_section::impressora, chave, valor, file);
+    const auto write = [&](TextView key, TextView value) {
+        GravaIni(files, ini_section::impressora, key, value, file);
     };
-    for (const Ajuste& ajuste : ajustes_da_impressora) {
-        grava(ajuste.chave, ajuste.valor);
+    for (const FirstValue& row : first_printer_values) {
+        write(row.key, row.value);
     }
-    grava(u"Path", files.programFolder());
-    grava(u"TipoOculta", u"3");
+    write(printer_key::order_folder, files.programFolder());
+    write(printer_key::hidden_format, default_hidden_format);
     deleteCommandFile(files);
 }
 

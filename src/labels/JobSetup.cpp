@@ -29,22 +29,30 @@ void useMillimetres(FrmPadrao& form) {
     skip([&] { form.platform.surface.ScaleMode(ScaleMode::millimetres); });
 }
 
-void setPage(FrmPadrao& form, const PageSize& page) {
+void setPage(FrmPadrao& form, const Stock& stock) {
+    if (!stock.page) {
+        return;
+    }
     PrintSurface& surface = form.platform.surface;
     skip([&] { surface.PaperSize(user_defined_paper); });
-    skip([&] { surface.Width(page.width); });
-    skip([&] { surface.Height(page.height); });
+    skip([&] { surface.Width(stock.page->width); });
+    skip([&] { surface.Height(stock.page->height); });
 }
 
-void readMargins(FrmPadrao& form, std::span<const Margin> margins) {
+void setDefaultMargins(FrmPadrao& form, const Stock& stock) {
+    for (const Margin& margin : stock.margins) {
+        form.*margin.variable = static_cast<float>(margin.default_value);
+    }
+}
+
+void readMargins(FrmPadrao& form, const Stock& stock) {
     const Files& files = form.platform.files;
     const Text file = settingsPath(files);
-    const bool file_exists = files.fileExists(file);
-    for (const Margin& margin : margins) {
-        if (!file_exists) {
-            form.*margin.variable = margin.default_value;
-            continue;
-        }
+    if (!files.fileExists(file)) {
+        setDefaultMargins(form, stock);
+        return;
+    }
+    for (const Margin& margin : stock.margins) {
         // A key without a number leaves the variable alone: its default is for a missing file only.
         skip([&] {
             form.*margin.variable =
@@ -72,12 +80,12 @@ void fillMissingPrice(FrmPadrao& form) {
     }
 }
 
-TextView ref3(const FrmPadrao& form) {
+TextView endOfCode(const FrmPadrao& form) {
     constexpr std::size_t length = 3;
     return right(form.txtcodigo.text, length);
 }
 
-Text descricao_cor(const FrmPadrao& form) {
+Text descriptionAndColour(const FrmPadrao& form) {
     return Text(trimmed(form.txtdescricao.text)).append(u" ").append(trimmed(form.txtcor.text));
 }
 

@@ -17,7 +17,6 @@
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <span>
 
 namespace etiquetas {
 
@@ -25,29 +24,6 @@ namespace {
 
 // A strip, so that one test shows both columns.
 constexpr std::int16_t quantidade = 2;
-
-// An entry field. Its default is a caption of the dialog, or a text where it has no caption.
-struct Entry {
-    TextField MargensDialog::*field;
-    Label MargensDialog::*default_label;
-    Margin margin;
-    float FrmPadrao::*rule_origin = nullptr; // takes the margin too
-};
-
-constexpr TextView default_top = u"3";
-
-constexpr std::array<Entry, 3> stripEntries(const std::array<Margin, 3>& margens) {
-    return {{{&MargensDialog::txtmargem1, &MargensDialog::Label2, margens[0]},
-             {&MargensDialog::txtmargem2, &MargensDialog::Label3, margens[1]},
-             {&MargensDialog::txtmargemsuperior, nullptr, margens[2]}}};
-}
-
-constexpr auto entries_oculta = stripEntries(margens_oculta);
-constexpr auto entries_caixa = stripEntries(margens_caixa);
-constexpr std::array<Entry, 2> entries_pack{{
-    {&MargensDialog::txtmargem1, &MargensDialog::Label2, margens_pack[0], &FrmPadrao::PackLinhaX},
-    {&MargensDialog::txtmargemsuperior, nullptr, margens_pack[1], &FrmPadrao::PackLinhaY},
-}};
 
 // The first size with a quantity and a barcode, whose codes it leaves in `lblbarra` and
 // `lblmaster`.
@@ -68,7 +44,7 @@ void drawHidden(FrmPadrao& form) {
     if (const auto slot = firstSize(form)) {
         skip([&] {
             Imprime_Oculta_40_20_2(form, form.marca_logo, trimmed(form.txtdescricao.text),
-                                   ref3(form), form.lblmaster.caption, form.lblbarra.caption,
+                                   endOfCode(form), form.lblmaster.caption, form.lblbarra.caption,
                                    form.Label7[*slot].caption, quantidade,
                                    trimmed(form.txtcor.text));
         });
@@ -77,10 +53,10 @@ void drawHidden(FrmPadrao& form) {
 
 void drawAccessory(FrmPadrao& form) {
     skip([&] {
-        Imprime_Acessorio_40_20_2(form, form.marca_logo, descricao_cor(form), ref3(form),
-                                  form.txtcodigo.text, form.lblbarra.caption, form.TXTPARES.text,
-                                  form.txtpreco.text, quantidade, form.txtbandeira.text,
-                                  form.txtsemana.text, form.txtpromocao.text);
+        Imprime_Acessorio_40_20_2(
+            form, form.marca_logo, descriptionAndColour(form), endOfCode(form), form.txtcodigo.text,
+            form.lblbarra.caption, form.TXTPARES.text, form.txtpreco.text, quantidade,
+            form.txtbandeira.text, form.txtsemana.text, form.txtpromocao.text);
     });
 }
 
@@ -100,10 +76,11 @@ void drawBoxFront(FrmPadrao& form) {
     fillMissingPrice(form);
     Text descricao(trimmed(form.txtdescricao.text));
     skip([&] {
-        Imprime_40_45_2(form, form.marca_logo, descricao, trimmed(form.txtcor.text), ref3(form),
-                        form.lblmaster.caption, form.lblbarra.caption, form.Label7[*slot].caption,
-                        form.txtpreco.text, quantidade, trimmed(form.txtpromocao.text),
-                        trimmed(form.txtsemana.text), form.txtbandeira.text);
+        Imprime_40_45_2(form, form.marca_logo, descricao, trimmed(form.txtcor.text),
+                        endOfCode(form), form.lblmaster.caption, form.lblbarra.caption,
+                        form.Label7[*slot].caption, form.txtpreco.text, quantidade,
+                        trimmed(form.txtpromocao.text), trimmed(form.txtsemana.text),
+                        form.txtbandeira.text);
     });
 }
 
@@ -118,7 +95,7 @@ void drawCarton(FrmPadrao& form) {
     });
 }
 
-// What is looked at once all margins are there. True where the test goes on.
+// What a test print checks once all margins are typed in. True where it goes on.
 
 bool beginStrip40x20(FrmPadrao& form) {
     form.coluna_etiqueta = 1;
@@ -132,11 +109,11 @@ bool beginBoxFronts(FrmPadrao& form) {
         return false;
     }
     if (!hasLogos(form)) {
-        tellOperator(form.platform.messages, notice::sem_logotipo);
+        tellOperator(form.platform.messages, notice::no_logo);
         return false;
     }
     if (isBlank(form.txtdescricao.text)) {
-        tellOperator(form.platform.messages, notice::sem_item); // told only: the test goes on
+        tellOperator(form.platform.messages, notice::no_item); // told only: the test goes on
     }
     return true;
 }
@@ -147,53 +124,50 @@ bool beginCarton(FrmPadrao& /*form*/) {
 
 // What the dialogs differ in.
 struct Calibration {
-    MargensDialog FrmPadrao::*dialog;
+    const Stock* stock;
     MargensDialog (*design)();
-    std::span<const Entry> entries;
-    PageSize page;
     bool (*begin)(FrmPadrao&);
     void (*draw)(FrmPadrao&);
 };
 
 constexpr std::array<Calibration, 3> calibrations{{
-    {&FrmPadrao::FrmMargensOcultaZPL2, FrmMargensOcultaZPL2_design, entries_oculta, pagina_oculta,
-     beginStrip40x20, drawStrip40x20},
-    {&FrmPadrao::FrmMargensCxZPL45, FrmMargensCxZPL45_design, entries_caixa, pagina_caixa,
-     beginBoxFronts, drawBoxFront},
-    {&FrmPadrao::FrmMargensPackZPL, FrmMargensPackZPL_design, entries_pack, pagina_pack,
-     beginCarton, drawCarton},
+    {&stock_40x20, designOfHiddenMargins, beginStrip40x20, drawStrip40x20},
+    {&stock_40x45, designOfBoxFrontMargins, beginBoxFronts, drawBoxFront},
+    {&stock_carton, designOfCartonMargins, beginCarton, drawCarton},
 }};
 
 const Calibration& calibrationOf(const FrmPadrao& form, const MargensDialog& dialog) {
-    return *std::find_if(calibrations.begin(), calibrations.end(),
-                         [&](const Calibration& row) { return &(form.*row.dialog) == &dialog; });
+    return *std::find_if(calibrations.begin(), calibrations.end(), [&](const Calibration& row) {
+        return &(form.*row.stock->dialog) == &dialog;
+    });
 }
 
-TextView defaultOf(const MargensDialog& dialog, const Entry& entry) {
-    return entry.default_label == nullptr ? default_top : (dialog.*entry.default_label).caption;
+// The caption of the dialog that shows it, where there is one.
+Text defaultOf(const MargensDialog& dialog, const Margin& margin) {
+    return margin.entry.default_label == nullptr ? numberText(margin.default_value)
+                                                 : (dialog.*margin.entry.default_label).caption;
 }
 
-TextView typedOrDefault(const MargensDialog& dialog, const Entry& entry) {
-    const Text& typed = (dialog.*entry.field).text;
-    return isBlank(typed) ? defaultOf(dialog, entry) : typed;
+Text& typedIn(MargensDialog& dialog, const Margin& margin) {
+    return (dialog.*margin.entry.field).text;
 }
 
-void readFields(const FrmPadrao& form, MargensDialog& dialog, std::span<const Entry> entries) {
+void readFields(const FrmPadrao& form, MargensDialog& dialog, const Stock& stock) {
     const Files& files = form.platform.files;
     const Text file = settingsPath(files);
     if (!files.fileExists(file)) {
         return;
     }
-    for (const Entry& entry : entries) {
-        (dialog.*entry.field).text = LeIni(files, file, ini_section::margens, entry.margin.key, {});
+    for (const Margin& margin : stock.margins) {
+        typedIn(dialog, margin) = LeIni(files, file, ini_section::margens, margin.key, {});
     }
 }
 
-void fillBlankFields(MargensDialog& dialog, std::span<const Entry> entries) {
-    for (const Entry& entry : entries) {
-        Text& typed = (dialog.*entry.field).text;
+void fillBlankFields(MargensDialog& dialog, const Stock& stock) {
+    for (const Margin& margin : stock.margins) {
+        Text& typed = typedIn(dialog, margin);
         if (isBlank(typed)) {
-            typed = defaultOf(dialog, entry);
+            typed = defaultOf(dialog, margin);
         }
     }
 }
@@ -201,31 +175,32 @@ void fillBlankFields(MargensDialog& dialog, std::span<const Entry> entries) {
 void copyCode(const FrmPadrao& form, MargensDialog& dialog) {
     const Text& codigo = form.txtcodigo.text;
     if (dialog.txtcodigo) {
-        dialog.txtcodigo->text = isBlank(codigo) ? u"50100779" : codigo;
+        dialog.txtcodigo->text = isBlank(codigo) ? sample_code : codigo;
     }
 }
 
-// Tells the operator where a margin is missing, and leads him to the first one.
-bool marginsAreThere(FrmPadrao& form, const MargensDialog& dialog, std::span<const Entry> entries) {
-    const auto blank = std::find_if(entries.begin(), entries.end(), [&](const Entry& entry) {
-        return isBlank((dialog.*entry.field).text);
-    });
-    if (blank == entries.end()) {
+// Tells the operator where a margin is missing, and leads them to the first one.
+bool marginsAreThere(FrmPadrao& form, const MargensDialog& dialog, const Stock& stock) {
+    const auto blank =
+        std::find_if(stock.margins.begin(), stock.margins.end(), [&](const Margin& margin) {
+            return isBlank((dialog.*margin.entry.field).text);
+        });
+    if (blank == stock.margins.end()) {
         return true;
     }
     tellOperator(form.platform.messages, u"Informe a Margem...");
-    skip([&] { form.platform.focus.moveTo(dialog.*blank->field); });
+    skip([&] { form.platform.focus.moveTo(dialog.*blank->entry.field); });
     return false;
 }
 
 // In memory only: the next Print command reads its margins anew.
-void takeMargins(FrmPadrao& form, const MargensDialog& dialog, std::span<const Entry> entries) {
-    for (const Entry& entry : entries) {
+void takeMargins(FrmPadrao& form, const MargensDialog& dialog, const Stock& stock) {
+    for (const Margin& margin : stock.margins) {
         skip([&] {
-            const float margin = toSingle((dialog.*entry.field).text);
-            form.*entry.margin.variable = margin;
-            if (entry.rule_origin != nullptr) {
-                form.*entry.rule_origin = margin;
+            const float value = toSingle((dialog.*margin.entry.field).text);
+            form.*margin.variable = value;
+            if (margin.rule_origin != nullptr) {
+                form.*margin.rule_origin = value;
             }
         });
     }
@@ -239,8 +214,8 @@ void margens_load(FrmPadrao& form, MargensDialog& dialog) {
     // The top margin keeps the text that it is designed with.
     dialog.txtmargem1.text.clear();
     dialog.txtmargem2.text.clear();
-    readFields(form, dialog, calibration.entries);
-    fillBlankFields(dialog, calibration.entries);
+    readFields(form, dialog, *calibration.stock);
+    fillBlankFields(dialog, *calibration.stock);
     copyCode(form, dialog);
 }
 
@@ -255,25 +230,27 @@ KeyCode margem_key(KeyCode key) {
 void cmd_gravar_click(FrmPadrao& form, MargensDialog& dialog) {
     Files& files = form.platform.files;
     const Text file = settingsPath(files);
-    for (const Entry& entry : calibrationOf(form, dialog).entries) {
-        const Text margin(typedOrDefault(dialog, entry));
-        if (entry.default_label == nullptr) {
-            (dialog.*entry.field).text = margin; // a default without a caption is shown here
+    for (const Margin& margin : calibrationOf(form, dialog).stock->margins) {
+        Text& typed = typedIn(dialog, margin);
+        const Text stored = isBlank(typed) ? defaultOf(dialog, margin) : typed;
+        if (margin.entry.default_label == nullptr) {
+            typed = stored; // a default that no label shows is shown here
         }
-        GravaIni(files, ini_section::margens, entry.margin.key, margin, file);
+        GravaIni(files, ini_section::margens, margin.key, stored, file);
     }
     dialog.open = false;
 }
 
 void cmd_teste_click(FrmPadrao& form, MargensDialog& dialog) {
     const Calibration& calibration = calibrationOf(form, dialog);
-    if (!marginsAreThere(form, dialog, calibration.entries) || !calibration.begin(form)) {
+    const Stock& stock = *calibration.stock;
+    if (!marginsAreThere(form, dialog, stock) || !calibration.begin(form)) {
         return;
     }
     selectChosenPrinter(form);
     useMillimetres(form);
-    takeMargins(form, dialog, calibration.entries);
-    setPage(form, calibration.page);
+    takeMargins(form, dialog, stock);
+    setPage(form, stock);
     useLabelFont(form);
     chooseBanner(form);
     calibration.draw(form);

@@ -38,6 +38,7 @@ struct FrmPadrao {
 
     // Order selection
     Panel Frame4{u"Selecione o Pedido"};
+    /// As designed: the start-up fills it from the table of label kinds.
     ListField cmbtipo{Text(tipo::frente_de_caixa),
                       u"Tipo de Etiqueta",
                       {Text(tipo::frente_de_caixa), Text(tipo::corrugado), Text(tipo::acessorio),
@@ -48,7 +49,7 @@ struct FrmPadrao {
     ListField List1{.visible = false};
 
     // Item of the box, hidden and accessory kinds
-    Panel Frame1{u"Caixa / Oculta"};
+    Panel Frame1{Text(panel_caption::caixa_oculta)};
     ListField cmb_referencia{.caption = u"Item"};
     TextField txtcodigo{.caption = u"Código"};
     TextField txtcor{.caption = u"Cor"};
@@ -87,7 +88,7 @@ struct FrmPadrao {
     PictureField Picture2{.visible = false};
 
     // Item of the corrugated kind
-    Panel Frame3{u"Corrugado", false};
+    Panel Frame3{Text(panel_caption::corrugado), false};
     ListField cmb_referencia1{.caption = u"Produto"};
     TextField txtsemana1{.caption = u"Semana"};
     TextField txtcor1{.caption = u"Cor"};
@@ -140,13 +141,13 @@ struct FrmPadrao {
     ListField cmbintensidade{.caption = u"Intensidade", .visible = false};
     ListField cmbvelocidade{.caption = u"Velocidade", .visible = false};
 
-    // Dialogs. They stand beside the Workbench, which stays usable behind them
-    MargensDialog FrmMargensOcultaZPL2 = FrmMargensOcultaZPL2_design();
-    MargensDialog FrmMargensCxZPL45 = FrmMargensCxZPL45_design();
-    MargensDialog FrmMargensPackZPL = FrmMargensPackZPL_design();
+    // Dialogs. The Workbench stays usable while they are open
+    MargensDialog FrmMargensOcultaZPL2 = designOfHiddenMargins();
+    MargensDialog FrmMargensCxZPL45 = designOfBoxFrontMargins();
+    MargensDialog FrmMargensPackZPL = designOfCartonMargins();
     ParametroDialog FrmParametroImpressora;
-    /// True from the first time on that the parameter dialog was activated: only then it shows what
-    /// is stored. Opened again it shows its fields as designed.
+    /// True once the parameter dialog has been activated. Only the first activation of a run shows
+    /// what is stored; opened again, the dialog shows its fields as designed.
     bool ParametrosCarregados = false;
 
     // Margins, millimetres; each job reads its own from the settings file

@@ -5,11 +5,11 @@
 
 namespace etiquetas {
 
-// Each opening of a dialog starts from the fields as they are designed here. `to_front` is set when
-// an open dialog is asked for again: whoever shows the dialog brings it to the front and clears it.
-
 /// The printer parameters. The operator sees the order folder, the panel of the standard labels and
 /// the commands; the fields of the hidden panels are stored and shown back all the same.
+///
+/// Each load starts from the fields as they are designed here. `to_front` is set when the open
+/// dialog is asked for again: whoever shows the dialog brings it to the front and clears it.
 struct ParametroDialog {
     Text Caption = u"Parâmetro de Impressão";
 

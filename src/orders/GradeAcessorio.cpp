@@ -20,7 +20,7 @@ struct AccessoryLayout {
     std::optional<std::size_t> price;
     std::optional<std::size_t> week_suffix;
     std::optional<std::size_t> promotion;
-    bool fills_slots; // its lines are sizes; those of the others unlock the quantity
+    bool fills_slots; // each line is a size; the other widths unlock the quantity instead
 };
 
 constexpr std::array<AccessoryLayout, 4> layouts{{
@@ -36,7 +36,7 @@ bool belongsTo(const OrderLine& line, const AccessoryLayout& layout, const ItemK
            left(trimmed(line[accessory_field::master]), layout.code_length) == item.code;
 }
 
-// The week as it stands, or trimmed with its suffix behind it.
+// The week as it stands, or trimmed with its suffix after it.
 Text weekOf(const OrderLine& line, const AccessoryLayout& layout) {
     const TextView week = line[accessory_field::week];
     const TextView suffix = layout.week_suffix ? trimmed(line[*layout.week_suffix]) : TextView{};
@@ -70,13 +70,13 @@ class Filler {
             fillItemFields(form_, line, layout);
             if (!layout.fills_slots) {
                 form_.TXTPARES.locked = false;
-                achou_ = true;
+                placed_ = true;
             }
         }
         if (layout.fills_slots) {
-            achou_ = fillSlot(form_, line[accessory_field::size], line[accessory_field::quantity]);
+            placed_ = fillSlot(form_, line[accessory_field::size], line[accessory_field::quantity]);
         }
-        if (!achou_) {
+        if (!placed_) {
             tellSlotsAreFull(form_);
         }
         ++count_;
@@ -85,7 +85,7 @@ class Filler {
   private:
     FrmPadrao& form_;
     std::size_t count_ = 0;
-    bool achou_ = false;
+    bool placed_ = false;
 };
 
 } // namespace

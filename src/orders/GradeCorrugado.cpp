@@ -88,21 +88,21 @@ void fillFields(FrmPadrao& form, const OrderLine& line, const CorrugatedLayout& 
     showEan(form, layout.ean.has_value());
 }
 
-// Takes the first line of the pack. Behind a line of width 13 that is another pack's, no line is
-// taken any more.
+// Takes the first line of the pack. A line of width 13 that is another pack's ends the search.
 void fillFromLines(FrmPadrao& form, const ItemKey& item) {
-    bool narrow_passed_over = false;
     for (const Text& text : form.List1.entries) {
         const OrderLine line(text);
         const CorrugatedLayout* const layout = layoutOf(line, layouts);
         if (layout == nullptr) {
             continue;
         }
-        if (!narrow_passed_over && belongsTo(line, *layout, item)) {
+        const bool found = belongsTo(line, *layout, item);
+        if (found) {
             fillFields(form, line, *layout);
+        }
+        if (found || layout->width == narrow) {
             return;
         }
-        narrow_passed_over = narrow_passed_over || layout->width == narrow;
     }
 }
 

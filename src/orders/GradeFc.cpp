@@ -66,8 +66,7 @@ void fillFromLines(FrmPadrao& form, const ItemKey& item) {
         if (count == 0) {
             fillItemFields(form, line, *layout);
         }
-        const bool achou = fillSlot(form, line[box_field::size], line[box_field::quantity]);
-        if (!achou) {
+        if (!fillSlot(form, line[box_field::size], line[box_field::quantity])) {
             tellSlotsAreFull(form);
         }
         ++count;

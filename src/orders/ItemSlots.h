@@ -28,7 +28,7 @@ void EXIBE_ITENS(FrmPadrao& form);
 /// the corrugated fields keep their values until the next load replaces them.
 void limpa_objetos(FrmPadrao& form);
 
-/// The named step behind the item loaders; there is nothing to hide.
+/// The named step after the item loaders; there is nothing to hide.
 void oculta_objetos(FrmPadrao& form);
 
 } // namespace etiquetas

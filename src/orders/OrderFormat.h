@@ -54,7 +54,7 @@ struct ItemKeyFields {
 struct ItemKey {
     explicit ItemKey(TextView key);
 
-    // Of its own: a message box of a loader lets other events at the list that the key stands in.
+    // Copies: while a loader shows a message box, other events may change the list of the keys.
     Text code;
     Text description;
     Text colour;

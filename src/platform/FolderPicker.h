@@ -8,7 +8,7 @@ namespace etiquetas {
 /// The machine's folder picker.
 class FolderPicker : public Interface {
   public:
-    /// Lets the operator pick a folder of the file system; empty where he picked none.
+    /// Lets the operator pick a folder of the file system; empty where they picked none.
     [[nodiscard]] virtual Text pick(TextView title) = 0;
 };
 

@@ -2,8 +2,8 @@
 
 namespace etiquetas {
 
-/// What every interface of the machine is: destroyed through itself, copied only as a whole by the
-/// class that implements it.
+/// Base of the machine's interfaces: one can be deleted through its base, and only the class that
+/// implements it can be copied.
 class Interface {
   public:
     virtual ~Interface() = default;

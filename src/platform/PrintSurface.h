@@ -26,9 +26,9 @@ struct SourceArea {
 /// What labels are drawn on: one job of pages on the current printer.
 ///
 /// The state (face, size, weight, pen, unit, page size) stays until it is set again, from label to
-/// label and from job to job; only the page size goes with the selection of a printer, whose own
-/// page holds until a size is set. The first drawing begins a job on the printer that is current
-/// then; the job stays there until `EndDoc`. Every operation may fail with a `Failure`.
+/// label and from job to job. The page size alone is lost when a printer is selected: that
+/// printer's own page holds until a size is set. The first drawing begins a job on the printer that
+/// is current then; the job stays there until `EndDoc`. Every operation may fail with a `Failure`.
 class PrintSurface : public Interface {
   public:
     /// Face, size in points and weight of the next text.

@@ -30,7 +30,7 @@ void lookThrough(const PrintSurface& surface, Faces& faces) {
     }
 }
 
-// The names that were not found, each with a comma behind it.
+// The names that were not found, each with a comma after it.
 Text missingNames(const Faces& faces) {
     Text names;
     for (const Face& face : faces) {

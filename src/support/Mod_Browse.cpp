@@ -8,7 +8,7 @@ namespace etiquetas {
 Text BrowseFolder(FolderPicker& folders, TextView title) {
     Text path;
     skip([&] { path = folders.pick(title); });
-    // What stands behind a zero character is no part of the path.
+    // A zero character ends the path.
     return path.substr(0, path.find(u'\0'));
 }
 

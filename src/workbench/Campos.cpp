@@ -3,10 +3,9 @@
 #include "base/Failure.h"
 #include "base/Numbers.h"
 #include "model/FrmPadrao.h"
-#include "orders/GradeAcessorio.h"
 #include "orders/GradeCorrugado.h"
-#include "orders/GradeFc.h"
 #include "orders/ItemSlots.h"
+#include "orders/OrderFamily.h"
 #include "platform/Focus.h"
 #include "workbench/Pedido.h"
 
@@ -118,19 +117,10 @@ KeyCode cmb_referencia_key(FrmPadrao& form, KeyCode key) {
 
 void cmb_referencia_leave(FrmPadrao& form) {
     form.KeyPreview = true;
-    if (isBlank(form.cmb_referencia.text)) {
-        return;
-    }
-    // The caption is the switch, not the kind: a changed kind without a reload keeps the loader.
-    const Text& family = form.Frame1.caption;
-    if (family == tipo::acessorio) {
-        carrega_grade_Acessorio(form);
-        oculta_objetos(form);
-    } else if (family == tipo::corrugado) {
-        carrega_corrugado(form);
-    } else {
-        carrega_gradeFc(form);
-        oculta_objetos(form);
+    if (!isBlank(form.cmb_referencia.text)) {
+        // The caption is the switch, not the kind: a kind changed without a reload keeps the
+        // loader.
+        familyOfCaption(form.Frame1.caption).loadItem(form);
     }
 }
 

@@ -70,7 +70,7 @@ KeyCode txtlote_key(FrmPadrao& form, KeyCode key);
 
 void txtnumero_enter(FrmPadrao& form, std::size_t slot);
 KeyCode txtnumero_key(FrmPadrao& form, std::size_t slot, KeyCode key);
-/// Totals the quantities; a total that can't be reckoned leaves the totals as they were.
+/// Totals the quantities; where one is no number, or their total too large, the totals stay.
 void txtnumero_leave(FrmPadrao& form, std::size_t slot);
 
 void TXTOCULTAS_enter(FrmPadrao& form);

@@ -4,24 +4,11 @@
 #include "model/FrmPadrao.h"
 #include "platform/MessageBoxes.h"
 #include "workbench/FrmParametroImpressora.h"
-
-#include <array>
+#include "workbench/LabelKinds.h"
 
 namespace etiquetas {
 
 namespace {
-
-struct CalibratedKind {
-    TextView kind;
-    MargensDialog FrmPadrao::*dialog;
-};
-
-constexpr std::array<CalibratedKind, 4> calibrated_kinds{{
-    {tipo::acessorio, &FrmPadrao::FrmMargensOcultaZPL2},
-    {tipo::oculta, &FrmPadrao::FrmMargensOcultaZPL2},
-    {tipo::frente_de_caixa, &FrmPadrao::FrmMargensCxZPL45},
-    {tipo::corrugado, &FrmPadrao::FrmMargensPackZPL},
-}};
 
 template <typename Dialog, typename Load>
 void openDialog(Dialog& dialog, Load&& load) {
@@ -40,11 +27,10 @@ void cmd_calibra_click(FrmPadrao& form) {
         tellOperator(form.platform.messages, u"Selecione um Pedido para realizar a Calibragem...");
         return;
     }
-    for (const CalibratedKind& row : calibrated_kinds) {
-        if (row.kind == form.cmbtipo.text) {
-            MargensDialog& dialog = form.*row.dialog;
-            openDialog(dialog, [&] { margens_load(form, dialog); });
-        }
+    const LabelKind* const kind = labelKind(form.cmbtipo.text);
+    if (kind != nullptr && kind->stock->dialog != nullptr) {
+        MargensDialog& dialog = form.*kind->stock->dialog;
+        openDialog(dialog, [&] { margens_load(form, dialog); });
     }
 }
 

@@ -52,7 +52,7 @@ constexpr std::array<PortPanel, 3> port_panels{{
     {&ParametroDialog::optSerial, &ParametroDialog::FrameSerial},
 }};
 
-// Selects the option of the value; where no option has it the other one, or none at all.
+// Selects the option that stands for the value; where none does, `other`, which may be null.
 void selectOption(ParametroDialog& dialog, std::span<const Choice> group, TextView value,
                   Option ParametroDialog::*other) {
     const auto row = std::find_if(group.begin(), group.end(),
@@ -85,7 +85,7 @@ void fill(ListField& list, TextView port, int count) {
     list.choose(0);
 }
 
-// The row stays where no row is just like the value.
+// Without a row of exactly that text the chosen row stays.
 void chooseRow(ListField& list, TextView value) {
     const auto row = std::find(list.entries.begin(), list.entries.end(), value);
     if (row != list.entries.end()) {
@@ -109,24 +109,24 @@ void replaceMissingFolder(FrmPadrao& form) {
 void storeLanguage(FrmPadrao& form) {
     const auto language = selectedValue(form.FrmParametroImpressora, languages);
     form.lbllinguagem.caption = language.value_or(u"PPLA");
-    store(form, u"Linguagem", form.lbllinguagem.caption);
+    store(form, printer_key::language, form.lbllinguagem.caption);
 }
 
 void storePort(FrmPadrao& form) {
     const TextView port = selectedValue(form.FrmParametroImpressora, ports).value_or(u"USB");
-    store(form, u"Porta", port);
+    store(form, printer_key::port, port);
     form.lblporta.caption = upperCase(port);
 }
 
 // Whichever port is selected.
 void storePortSettings(FrmPadrao& form) {
     const ParametroDialog& dialog = form.FrmParametroImpressora;
-    store(form, u"PortaSerial", dialog.cmbserial.text);
-    store(form, u"ConfiguracaoPortaSerial", dialog.txtserialconfiguracao.text);
-    store(form, u"PortaParalela", dialog.cmbparalela1.text);
+    store(form, printer_key::serial_port, dialog.cmbserial.text);
+    store(form, printer_key::serial_settings, dialog.txtserialconfiguracao.text);
+    store(form, printer_key::parallel_port, dialog.cmbparalela1.text);
     form.LBLPORTAPARELELA.caption = dialog.cmbparalela1.text;
-    store(form, u"PortaParalelaUSB", dialog.cmbparalela2.text);
-    store(form, u"NomeCompartilhamento", dialog.txtnomecompartilhamento.text);
+    store(form, printer_key::usb_port, dialog.cmbparalela2.text);
+    store(form, printer_key::share, dialog.txtnomecompartilhamento.text);
 }
 
 void storeFolder(FrmPadrao& form) {
@@ -139,7 +139,7 @@ void storeFolder(FrmPadrao& form) {
         folder.clear();
         form.lblpath.caption = files.programFolder();
     }
-    store(form, u"Path", folder);
+    store(form, printer_key::order_folder, folder);
 }
 
 // A format that is not chosen stays as it is stored.
@@ -179,17 +179,17 @@ void load_parametros(FrmPadrao& form) {
     const auto read = [&](TextView key) {
         return LeIni(files, file, ini_section::impressora, key, {});
     };
-    selectOption(dialog, languages, read(u"Linguagem"), &ParametroDialog::optzpl);
-    dialog.TXTPATH.text = read(u"Path");
-    chooseRow(dialog.cmbserial, read(u"PortaSerial"));
-    dialog.txtserialconfiguracao.text = read(u"ConfiguracaoPortaSerial");
-    chooseRow(dialog.cmbparalela2, read(u"PortaParalelaUSB"));
-    dialog.txtnomecompartilhamento.text = read(u"NomeCompartilhamento");
-    chooseRow(dialog.cmbparalela1, read(u"PortaParalela"));
-    selectOption(dialog, ports, read(u"Porta"), &ParametroDialog::optUsb);
+    selectOption(dialog, languages, read(printer_key::language), &ParametroDialog::optzpl);
+    dialog.TXTPATH.text = read(printer_key::order_folder);
+    chooseRow(dialog.cmbserial, read(printer_key::serial_port));
+    dialog.txtserialconfiguracao.text = read(printer_key::serial_settings);
+    chooseRow(dialog.cmbparalela2, read(printer_key::usb_port));
+    dialog.txtnomecompartilhamento.text = read(printer_key::share);
+    chooseRow(dialog.cmbparalela1, read(printer_key::parallel_port));
+    selectOption(dialog, ports, read(printer_key::port), &ParametroDialog::optUsb);
     Oculta_Frame(form);
-    selectOption(dialog, hidden_formats, read(u"TipoOculta"), nullptr);
-    selectOption(dialog, box_front_formats, read(u"TipoFrenteCaixa"),
+    selectOption(dialog, hidden_formats, read(printer_key::hidden_format), nullptr);
+    selectOption(dialog, box_front_formats, read(printer_key::box_front_format),
                  &ParametroDialog::optfrentecaixa1);
     dialog.TXTPATH.tooltip = dialog.TXTPATH.text;
 }
@@ -221,8 +221,8 @@ void cmd_grava_click(FrmPadrao& form) {
     storePort(form);
     storePortSettings(form);
     storeFolder(form);
-    storeFormat(form, u"TipoOculta", hidden_formats, form.lbloculta);
-    storeFormat(form, u"TipoFrenteCaixa", box_front_formats, form.frentecaixa);
+    storeFormat(form, printer_key::hidden_format, hidden_formats, form.lbloculta);
+    storeFormat(form, printer_key::box_front_format, box_front_formats, form.frentecaixa);
     ParametroDialog& dialog = form.FrmParametroImpressora;
     form.lblcompartilhamento.caption = dialog.txtnomecompartilhamento.text;
     deleteCommandFile(form.platform.files);

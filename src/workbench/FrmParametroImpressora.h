@@ -11,7 +11,7 @@ struct FrmPadrao;
 /// each chosen.
 void FrmParametroImpressora_load(FrmPadrao& form);
 
-/// Activation event, behind the load. The first one of the run, and only that, shows what is
+/// Activation event, after the load. The first one of the run, and only that, shows what is
 /// stored.
 void FrmParametroImpressora_activate(FrmPadrao& form);
 
@@ -22,8 +22,8 @@ void load_parametros(FrmPadrao& form);
 /// click, on entering and on leaving.
 void Oculta_Frame(FrmPadrao& form);
 
-/// Lets the operator browse for the order folder; what is no folder is told and not taken. None
-/// picked counts as no folder.
+/// Lets the operator browse for the order folder; a path that is no folder is reported
+/// and not taken, and so is a browse without a choice.
 void CMD_GETPATH_click(FrmPadrao& form);
 
 /// Stores all parameters, hands them to the Workbench and closes the dialog. A folder that does not

@@ -2,44 +2,34 @@
 
 #include "base/Failure.h"
 #include "model/FrmPadrao.h"
-#include "orders/GradeAcessorio.h"
 #include "orders/GradeCorrugado.h"
-#include "orders/GradeFc.h"
 #include "orders/ItemSlots.h"
-#include "workbench/ImpressaoRamos.h"
+#include "orders/OrderFamily.h"
+#include "workbench/ImpressaoComum.h"
 #include "workbench/Inicio.h"
-
-#include <algorithm>
-#include <array>
+#include "workbench/LabelKinds.h"
 
 namespace etiquetas {
 
 namespace {
 
-struct Branch {
-    TextView kind;
-    Course (*print)(FrmPadrao&);
-};
-
-// Any other kind prints nothing and goes on.
-constexpr std::array<Branch, 4> branches{{
-    {tipo::frente_de_caixa_100x40, printBoxFronts100x40},
-    {tipo::frente_de_caixa, printBoxFronts},
-    {tipo::oculta, printHiddenLabels},
-    {tipo::acessorio, printAccessories},
-}};
+// The panel that shows decides before the kind does: from the corrugated panel cartons are printed
+// whatever the kind, and from the other one never. Nothing where the kind prints nothing.
+const LabelKind* kindToPrint(const FrmPadrao& form) {
+    const LabelKind* const cartons = labelKind(tipo::corrugado);
+    if (!form.Frame1.visible) {
+        return cartons;
+    }
+    const LabelKind* const kind = labelKind(form.cmbtipo.text);
+    return kind == cartons ? nullptr : kind;
+}
 
 Course printLabels(FrmPadrao& form) {
-    if (!form.Frame1.visible) {
-        return printCartons(form);
-    }
-    if (checkCode(form, form.txtcodigo) == Course::ends) {
+    if (form.Frame1.visible && checkCode(form, form.txtcodigo) == Course::ends) {
         return Course::ends;
     }
-    const auto* const branch =
-        std::find_if(branches.begin(), branches.end(),
-                     [&](const Branch& row) { return row.kind == form.cmbtipo.text; });
-    return branch == branches.end() ? Course::goes_on : branch->print(form);
+    const LabelKind* const kind = kindToPrint(form);
+    return kind == nullptr ? Course::goes_on : kind->print(form, *kind->stock);
 }
 
 // Takes the chosen item off its list, and one line off the order: the one at the same position,
@@ -54,14 +44,12 @@ void dropChosen(FrmPadrao& form, ListField& items) {
     }
 }
 
-// By the caption of the item panel, which is the switch, not the kind.
+// By the caption of the item panel, which is the switch, not the kind. The caption of the
+// corrugated family loads nothing there.
 void loadNextBoxItem(FrmPadrao& form) {
-    if (form.Frame1.caption == tipo::acessorio) {
-        skip([&] { carrega_grade_Acessorio(form); });
-        oculta_objetos(form);
-    } else if (form.Frame1.caption != tipo::corrugado) {
-        skip([&] { carrega_gradeFc(form); });
-        oculta_objetos(form);
+    const OrderFamily& family = familyOfCaption(form.Frame1.caption);
+    if (family.name != family_name::corrugated) {
+        skip([&] { family.loadItem(form); });
     }
 }
 

@@ -1,6 +1,6 @@
 #include "base/Numbers.h"
 #include "labels/Acessorio.h"
-#include "workbench/ImpressaoRamos.h"
+#include "workbench/ImpressaoComum.h"
 
 namespace etiquetas {
 
@@ -8,7 +8,7 @@ namespace {
 
 // All labels of the item. The barcode is the one that the loader left.
 void printItem(FrmPadrao& form) {
-    Imprime_Acessorio_40_20_2(form, form.marca_logo, descricao_cor(form), ref3(form),
+    Imprime_Acessorio_40_20_2(form, form.marca_logo, descriptionAndColour(form), endOfCode(form),
                               form.txtcodigo.text, form.lblbarra.caption, form.TXTPARES.text,
                               form.txtpreco.text, toInteger16(form.TXTPARES.text),
                               form.txtbandeira.text, form.txtsemana.text, form.txtpromocao.text);
@@ -16,12 +16,13 @@ void printItem(FrmPadrao& form) {
 
 } // namespace
 
-Course printAccessories(FrmPadrao& form) {
+Course printAccessories(FrmPadrao& form, const Stock& stock) {
     if (checkLogos(form) == Course::ends) {
         return Course::ends;
     }
     checkDescription(form, form.txtdescricao); // told only: the labels are printed all the same
-    beginJob40x20(form);
+    form.coluna_etiqueta = 1;
+    beginJob(form, stock);
     fillMissingPrice(form);
     skip([&] { printItem(form); });
     endJob(form);

@@ -23,7 +23,7 @@ Course checkLogos(FrmPadrao& form) {
     if (hasLogos(form)) {
         return Course::goes_on;
     }
-    tellOperator(form.platform.messages, notice::sem_logotipo, Symbol::stop);
+    tellOperator(form.platform.messages, notice::no_logo, Symbol::stop);
     return Course::ends;
 }
 
@@ -39,16 +39,15 @@ Course checkDescription(FrmPadrao& form, const TextField& description) {
     if (!isBlank(description.text)) {
         return Course::goes_on;
     }
-    tellOperator(form.platform.messages, notice::sem_item);
+    tellOperator(form.platform.messages, notice::no_item);
     return Course::ends;
 }
 
-void beginJob40x20(FrmPadrao& form) {
+void beginJob(FrmPadrao& form, const Stock& stock) {
     selectChosenPrinter(form);
-    form.coluna_etiqueta = 1;
     useMillimetres(form);
-    setPage(form, pagina_oculta);
-    readMargins(form, margens_oculta);
+    setPage(form, stock);
+    readMargins(form, stock);
     useLabelFont(form);
     chooseBanner(form);
 }

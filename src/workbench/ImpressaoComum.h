@@ -6,16 +6,12 @@
 #include "model/FrmPadrao.h"
 #include "orders/Complemento.h"
 #include "platform/MessageBoxes.h"
-
-#include <cstdint>
+#include "workbench/LabelKinds.h"
 
 namespace etiquetas {
 
 // What the branches of the Print command share: each label kind has one. A step that fails is
 // passed over.
-
-/// Whether the Print command goes on behind a step, to its closing question in the end.
-enum class Course : std::uint8_t { goes_on, ends };
 
 /// Asks the operator; true only on Yes.
 [[nodiscard]] bool confirm(FrmPadrao& form, Text question);
@@ -32,8 +28,8 @@ enum class Course : std::uint8_t { goes_on, ends };
 /// Tells the operator where no item is chosen. Not every branch ends then.
 Course checkDescription(FrmPadrao& form, const TextField& description);
 
-/// Sets up a job of 40 by 20 mm labels, two across.
-void beginJob40x20(FrmPadrao& form);
+/// Sets up a job on a stock: printer, unit, page, margins, font, banner.
+void beginJob(FrmPadrao& form, const Stock& stock);
 
 /// Ends the command where the size that was looked up last has no master code or no barcode.
 [[nodiscard]] Course checkSizeCodes(FrmPadrao& form);

@@ -1,17 +1,10 @@
 #include "base/Numbers.h"
 #include "labels/Corrugado.h"
-#include "workbench/ImpressaoRamos.h"
+#include "workbench/ImpressaoComum.h"
 
 namespace etiquetas {
 
 namespace {
-
-// A margin that the settings lack is 3 mm here, whatever it was before.
-void readMargins(FrmPadrao& form) {
-    form.PackX = 3.0F;
-    form.PackY = 3.0F;
-    readMargins(form, margens_pack);
-}
 
 void printVolumes(FrmPadrao& form) {
     const std::int16_t first = toInteger16(form.cmb_vol1.text);
@@ -25,18 +18,15 @@ void printVolumes(FrmPadrao& form) {
 
 } // namespace
 
-Course printCartons(FrmPadrao& form) {
+Course printCartons(FrmPadrao& form, const Stock& stock) {
     if (askAboutColour(form, form.txtcor1) == Course::ends ||
         checkDescription(form, form.txtdescricao1) == Course::ends ||
         checkCode(form, form.txtcodigo1) == Course::ends) {
         return Course::ends;
     }
-    selectChosenPrinter(form);
-    readMargins(form);
-    useMillimetres(form);
-    setPage(form, pagina_pack);
-    useLabelFont(form);
-    chooseBanner(form);
+    // A margin that the settings lack is the default here, whatever it was before.
+    setDefaultMargins(form, stock);
+    beginJob(form, stock);
     skip([&] { printVolumes(form); });
     endJob(form);
     return Course::goes_on;

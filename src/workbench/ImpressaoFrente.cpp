@@ -3,27 +3,28 @@
 #include "labels/Frente100x40.h"
 #include "labels/FrenteCaixa.h"
 #include "platform/PrintSurface.h"
-#include "workbench/ImpressaoRamos.h"
+#include "workbench/ImpressaoComum.h"
 
 namespace etiquetas {
 
 namespace {
 
-// Kind of paper and width are set behind the margins too; the height is not.
-void prepareStrip(FrmPadrao& form) {
+// Setting the kind of paper may reset the page: of the page, only the width is set again after it.
+void prepareStrip(FrmPadrao& form, const Stock& stock) {
     PrintSurface& surface = form.platform.surface;
+    const PageSize page = stock.page.value();
     useMillimetres(form);
-    skip([&] { surface.Width(pagina_caixa.width); });
-    skip([&] { surface.Height(pagina_caixa.height); });
-    readMargins(form, margens_caixa);
+    skip([&] { surface.Width(page.width); });
+    skip([&] { surface.Height(page.height); });
+    readMargins(form, stock);
     skip([&] { surface.PaperSize(user_defined_paper); });
-    skip([&] { surface.Width(pagina_caixa.width); });
+    skip([&] { surface.Width(page.width); });
 }
 
-void beginStripJob(FrmPadrao& form) {
+void beginStripJob(FrmPadrao& form, const Stock& stock) {
     form.coluna_etiqueta = 1;
     selectChosenPrinter(form);
-    prepareStrip(form);
+    prepareStrip(form, stock);
     useLabelFont(form);
     chooseBanner(form);
     if (form.Frame2.visible) {
@@ -42,7 +43,7 @@ Course printStripSize(FrmPadrao& form, std::size_t slot) {
     }
     skip([&] {
         Imprime_40_45_2(form, form.marca_logo, form.txtdescricao.text, trimmed(form.txtcor.text),
-                        ref3(form), form.lblmaster.caption, form.lblbarra.caption,
+                        endOfCode(form), form.lblmaster.caption, form.lblbarra.caption,
                         form.Label7[slot].caption, form.txtpreco.text,
                         toInteger16(form.txtnumero[slot].text), form.txtpromocao.text,
                         form.txtsemana.text, form.txtbandeira.text);
@@ -50,17 +51,12 @@ Course printStripSize(FrmPadrao& form, std::size_t slot) {
     return Course::goes_on;
 }
 
-// The page is the printer's own, and so are the margins.
-void begin100x40Job(FrmPadrao& form) {
-    selectChosenPrinter(form);
-    useMillimetres(form);
-    form.Margem_oculta1 = 3.0F;
-    form.Margem_oculta11 = 45.0F;
-    form.Margem_oculta2 = 3.0F;
+// The label has no margins of its own, and those of the 40 by 20 mm labels are at their defaults.
+void begin100x40Job(FrmPadrao& form, const Stock& stock) {
+    beginJob(form, stock);
+    setDefaultMargins(form, stock_40x20);
     form.PackLinhaX = 0.0F;
     form.PackLinhaY = 0.0F;
-    useLabelFont(form);
-    chooseBanner(form);
 }
 
 Course print100x40Size(FrmPadrao& form, std::size_t slot) {
@@ -69,31 +65,31 @@ Course print100x40Size(FrmPadrao& form, std::size_t slot) {
     }
     fillMissingPrice(form);
     skip([&] {
-        Eti100_40_1(form, form.marca_logo, descricao_cor(form), ref3(form), form.txtcodigo.text,
-                    form.lblbarra.caption, form.Label7[slot].caption, form.txtpreco.text,
-                    toInteger16(form.txtnumero[slot].text));
+        Eti100_40_1(form, form.marca_logo, descriptionAndColour(form), endOfCode(form),
+                    form.txtcodigo.text, form.lblbarra.caption, form.Label7[slot].caption,
+                    form.txtpreco.text, toInteger16(form.txtnumero[slot].text));
     });
     return Course::goes_on;
 }
 
 } // namespace
 
-Course printBoxFronts(FrmPadrao& form) {
+Course printBoxFronts(FrmPadrao& form, const Stock& stock) {
     if (askAboutColour(form, form.txtcor) == Course::ends || checkLogos(form) == Course::ends) {
         return Course::ends;
     }
     checkDescription(form, form.txtdescricao); // told only: the labels are printed all the same
-    beginStripJob(form);
+    beginStripJob(form, stock);
     return printSizes(form, [&](std::size_t slot) { return printStripSize(form, slot); });
 }
 
-Course printBoxFronts100x40(FrmPadrao& form) {
+Course printBoxFronts100x40(FrmPadrao& form, const Stock& stock) {
     if (askAboutColour(form, form.txtcor) == Course::ends ||
         checkDescription(form, form.txtdescricao) == Course::ends ||
         checkLogos(form) == Course::ends) {
         return Course::ends;
     }
-    begin100x40Job(form);
+    begin100x40Job(form, stock);
     return printSizes(form, [&](std::size_t slot) { return print100x40Size(form, slot); });
 }
 

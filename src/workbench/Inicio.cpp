@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "base/Numbers.h"
 #include "base/Version.h"
+#include "config/ProgramFiles.h"
 #include "config/Settings.h"
 #include "model/FrmPadrao.h"
 #include "orders/ItemSlots.h"
@@ -10,6 +11,7 @@
 #include "platform/MessageBoxes.h"
 #include "platform/Printers.h"
 #include "support/ModAddFonte.h"
+#include "workbench/LabelKinds.h"
 
 namespace etiquetas {
 
@@ -38,7 +40,7 @@ void listPrinters(FrmPadrao& form) {
 void ensurePhotographFolder(FrmPadrao& form) {
     Files& files = form.platform.files;
     skip([&] {
-        const Text folder = joined(files, files.programFolder(), u"imagens");
+        const Text folder = joined(files, files.programFolder(), photograph_folder);
         if (!files.folderExists(folder)) {
             files.makeFolder(folder);
         }
@@ -53,8 +55,8 @@ struct Logo {
 };
 
 constexpr std::array<Logo, 2> logos{{
-    {u"brisako.jpg", u" Brisako.jpg", &FrmPadrao::pctlogo1, &FrmPadrao::LogoBrisakoOk},
-    {u"lumira.jpg", u" Lumira.jpg", &FrmPadrao::pctlogo2, &FrmPadrao::LogoLumiraOk},
+    {brisako_logo, u" Brisako.jpg", &FrmPadrao::pctlogo1, &FrmPadrao::LogoBrisakoOk},
+    {lumira_logo, u" Lumira.jpg", &FrmPadrao::pctlogo2, &FrmPadrao::LogoLumiraOk},
 }};
 
 // False when the logo is not there; one that is no picture is left empty without a word.
@@ -90,9 +92,10 @@ void loadLogos(FrmPadrao& form) {
 
 void fillKinds(FrmPadrao& form) {
     form.cmbtipo.clear();
-    for (const TextView kind :
-         {tipo::frente_de_caixa, tipo::corrugado, tipo::acessorio, tipo::oculta}) {
-        form.cmbtipo.entries.emplace_back(kind);
+    for (const LabelKind& kind : labelKinds()) {
+        if (kind.offered) {
+            form.cmbtipo.entries.emplace_back(kind.name);
+        }
     }
     form.cmbtipo.choose(0);
 }
@@ -111,18 +114,18 @@ void readSettings(FrmPadrao& form) {
     if (!files.fileExists(file)) {
         return;
     }
-    const auto le = [&](TextView section, TextView key) {
+    const auto read = [&](TextView section, TextView key) {
         return LeIni(files, file, section, key, {});
     };
-    form.txtcliente.text = le(ini_section::config, u"Referencia");
-    form.txtlote.text = le(ini_section::config, u"Lote");
-    form.txtarquivo.text = le(ini_section::config, u"arquivo");
-    form.lbloculta.caption = le(ini_section::impressora, u"TipoOculta");
+    form.txtcliente.text = read(ini_section::config, config_key::company);
+    form.txtlote.text = read(ini_section::config, config_key::addition);
+    form.txtarquivo.text = read(ini_section::config, config_key::order);
+    form.lbloculta.caption = read(ini_section::impressora, printer_key::hidden_format);
     if (isBlank(form.lbloculta.caption)) {
-        form.lbloculta.caption = u"3";
+        form.lbloculta.caption = default_hidden_format;
     }
-    form.lblcompartilhamento.caption = le(ini_section::impressora, u"NomeCompartilhamento");
-    form.lblpath.caption = le(ini_section::impressora, u"Path");
+    form.lblcompartilhamento.caption = read(ini_section::impressora, printer_key::share);
+    form.lblpath.caption = read(ini_section::impressora, printer_key::order_folder);
 }
 
 Text versionText() {
@@ -138,7 +141,6 @@ void FrmPadrao_load(FrmPadrao& form) {
     form.tem_imagem = false;
     OCULTA_ITENS(form);
     loadLogos(form);
-    // The two item panels stand one over the other; the window lays them out so.
     fillKinds(form);
     FrmPadrao_resize(form);
     form.lblpath.caption = form.platform.files.programFolder();

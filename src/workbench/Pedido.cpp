@@ -4,84 +4,27 @@
 #include "base/Numbers.h"
 #include "config/Settings.h"
 #include "model/FrmPadrao.h"
-#include "orders/GradeAcessorio.h"
-#include "orders/GradeCorrugado.h"
-#include "orders/GradeFc.h"
-#include "orders/ItemSlots.h"
+#include "orders/OrderFamily.h"
 #include "orders/OrderFormat.h"
 #include "platform/Files.h"
 #include "platform/MessageBoxes.h"
+#include "workbench/LabelKinds.h"
 
 #include <algorithm>
-#include <array>
 #include <unordered_set>
 
 namespace etiquetas {
 
 namespace {
 
-// What sets the files of one family of labels apart.
-struct Family {
-    TextView name; // in `TipoArquivo`
-    TextView word; // in the file name
-    ItemKeyFields key;
-    ListField FrmPadrao::*items;
-    Panel FrmPadrao::*shown;
-    Panel FrmPadrao::*hidden;
-    TextView caption; // of `Frame1`; empty leaves it
-    void (*load)(FrmPadrao&);
-    bool loads_blank_item;
-};
-
-void loadBoxItem(FrmPadrao& form) {
-    carrega_gradeFc(form);
-    oculta_objetos(form);
-}
-
-void loadAccessory(FrmPadrao& form) {
-    carrega_grade_Acessorio(form);
-    oculta_objetos(form);
-}
-
-constexpr std::array<Family, 3> families{{
-    {u"A", u"FRENTE", box_key, &FrmPadrao::cmb_referencia, &FrmPadrao::Frame1, &FrmPadrao::Frame3,
-     u"Caixa / Oculta", loadBoxItem, false},
-    {u"B", u"CORRUGADO", corrugated_key, &FrmPadrao::cmb_referencia1, &FrmPadrao::Frame3,
-     &FrmPadrao::Frame1, u"", carrega_corrugado, true},
-    {u"C", u"ACESSORIO", accessory_key, &FrmPadrao::cmb_referencia, &FrmPadrao::Frame1,
-     &FrmPadrao::Frame3, u"Acessório", loadAccessory, false},
-}};
-
-struct KindFamily {
-    TextView kind;
-    TextView family;
-};
-
-constexpr std::array<KindFamily, 4> family_of_kind{{
-    {tipo::frente_de_caixa, u"A"},
-    {tipo::oculta, u"A"},
-    {tipo::corrugado, u"B"},
-    {tipo::acessorio, u"C"},
-}};
-
 // An unknown kind keeps the family of the last known one, and nothing can be printed.
 void chooseFamily(FrmPadrao& form) {
-    const auto* const found =
-        std::find_if(family_of_kind.begin(), family_of_kind.end(),
-                     [&](const KindFamily& row) { return row.kind == form.cmbtipo.text; });
-    if (found == family_of_kind.end()) {
+    const LabelKind* const kind = labelKind(form.cmbtipo.text);
+    if (kind == nullptr || kind->family.empty()) {
         form.cmd_printacessorio.visible = false;
     } else {
-        form.TipoArquivo = found->family;
+        form.TipoArquivo = kind->family;
     }
-}
-
-// Nothing until a known kind has been chosen once.
-const Family* currentFamily(const FrmPadrao& form) {
-    const auto* const found =
-        std::find_if(families.begin(), families.end(),
-                     [&](const Family& family) { return family.name == form.TipoArquivo; });
-    return found == families.end() ? nullptr : found;
 }
 
 void ensureFolder(FrmPadrao& form) {
@@ -100,7 +43,7 @@ void listFiles(FrmPadrao& form) {
 }
 
 // The first listed file of the family; empty where there is none.
-Text firstOfFamily(const FrmPadrao& form, const Family* family) {
+Text firstOfFamily(const FrmPadrao& form, const OrderFamily* family) {
     for (const Text& name : form.filelist.entries) {
         if (family != nullptr && upperCase(name).find(family->word) != Text::npos) {
             return name;
@@ -114,12 +57,11 @@ void reportNotFound(FrmPadrao& form, Text message) {
     form.cmd_printacessorio.visible = false;
 }
 
-void showPanels(FrmPadrao& form, const Family& family) {
-    (form.*family.shown).visible = true;
-    (form.*family.hidden).visible = false;
-    if (!family.caption.empty()) {
-        form.Frame1.caption = family.caption;
+void showPanel(FrmPadrao& form, const OrderFamily& family) {
+    for (Panel FrmPadrao::*const panel : {&FrmPadrao::Frame1, &FrmPadrao::Frame3}) {
+        (form.*panel).visible = panel == family.panel;
     }
+    (form.*family.panel).caption = family.caption;
     form.LBLBRISAKO.visible = false;
 }
 
@@ -128,8 +70,8 @@ void warn(FrmPadrao& form, Text message) {
         {.text = std::move(message), .symbol = Symbol::exclamation, .title = u"ATENÇÃO!!!"});
 }
 
-// The bytes of the order's file as text; empty, and reported, where there is nothing to read. The
-// name is put in upper case, and reaches the file whatever the case of its own.
+// The order's file as text; empty, and reported, where there is nothing to read. The upper-case
+// name finds the file whatever the case of its own name.
 Text readOrder(FrmPadrao& form, TextView name) {
     const Files& files = form.platform.files;
     const auto path = findFile(files, form.lblpath.caption, upperCase(name));
@@ -155,7 +97,7 @@ void showBanner(FrmPadrao& form, TextView header) {
 // Takes the lines of an order to `List1` and its item keys to the item list, each key once.
 class OrderTaker {
   public:
-    OrderTaker(FrmPadrao& form, const Family& family)
+    OrderTaker(FrmPadrao& form, const OrderFamily& family)
         : form_(form), family_(family), items_(form.*family.items) {}
 
     void take(TextView order) {
@@ -194,21 +136,21 @@ class OrderTaker {
     }
 
     FrmPadrao& form_;
-    const Family& family_;
+    const OrderFamily& family_;
     ListField& items_;
     std::int32_t counter_ = 0;
     std::unordered_set<Text> known_keys_;
     std::vector<std::int32_t> short_lines_;
 };
 
-void loadFirstItem(FrmPadrao& form, const Family& family) {
+void loadFirstItem(FrmPadrao& form, const OrderFamily& family) {
     ListField& items = form.*family.items;
     if (items.entries.empty()) {
         return;
     }
     items.choose(0);
     if (family.loads_blank_item || !isBlank(items.text)) {
-        family.load(form);
+        family.loadItem(form);
     }
 }
 
@@ -245,15 +187,16 @@ void carrega_pedido(FrmPadrao& form) {
                                  form.lblpath.caption);
         return;
     }
-    const Family* const family = currentFamily(form);
+    const OrderFamily* const family = orderFamily(form.TipoArquivo);
     const Text name = firstOfFamily(form, family);
     if (name.empty()) {
         reportNotFound(form, u"O arquivo não foi localizado... ");
         return;
     }
     Files& files = form.platform.files;
-    GravaIni(files, ini_section::config, u"arquivo", form.txtarquivo.text, settingsPath(files));
-    showPanels(form, *family);
+    GravaIni(files, ini_section::config, config_key::order, form.txtarquivo.text,
+             settingsPath(files));
+    showPanel(form, *family);
     const Text order = readOrder(form, name);
     if (order.empty()) {
         return;

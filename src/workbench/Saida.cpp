@@ -9,15 +9,15 @@ namespace etiquetas {
 void cmd_sair_click(FrmPadrao& form) {
     Files& files = form.platform.files;
     const Text file = settingsPath(files);
-    const auto grava = [&](TextView key, TextView value) {
+    const auto write = [&](TextView key, TextView value) {
         GravaIni(files, ini_section::config, key, value, file);
     };
-    grava(u"Referencia", form.txtcliente.text);
-    grava(u"arquivo", form.txtarquivo.text);
-    grava(u"Lote", form.txtlote.text);
-    grava(u"Intensidade", form.cmbintensidade.text);
-    grava(u"Velocidade", form.cmbvelocidade.text);
-    grava(u"Tipo", form.cmbtipo.text);
+    write(config_key::company, form.txtcliente.text);
+    write(config_key::order, form.txtarquivo.text);
+    write(config_key::addition, form.txtlote.text);
+    write(config_key::darkness, form.cmbintensidade.text);
+    write(config_key::speed, form.cmbvelocidade.text);
+    write(config_key::kind, form.cmbtipo.text);
     form.platform.process.end();
 }
 
