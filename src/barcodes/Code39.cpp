@@ -61,7 +61,7 @@ Text modulesOf(TextView text, bool with_check_character) {
     return modules.append(modulesOf(start_and_stop));
 }
 
-constexpr std::size_t character_modules = 13;
+constexpr std::size_t character_modules = 13; // gap included
 
 // Blank rows above the bars and at the bottom, and those between the bars and a text under them.
 constexpr int rows_above = 10;
@@ -70,17 +70,16 @@ constexpr int rows_before_text = 5;
 // Two pixels more than the quiet zone of 10 modules that Code 39 asks for.
 constexpr int first_module_x = 12;
 
-// By the calibration of this system a character counts 12 pixels, one less than are drawn, with 20
-// for the edges, and a pixel 16 twips, one more than the raster has. The longer the text, the less
-// is left blank after it; up to 52 characters stand whole.
-double widthInTwips(std::size_t module_count) {
-    const auto drawn_characters = static_cast<double>(module_count / character_modules);
-    return (drawn_characters * 12 + 20) * 16;
+// Twips. By the calibration of this system a character counts 12 pixels, one less than are drawn,
+// with 20 for the edges, and a pixel 16 twips, one more than the raster has. The longer the symbol,
+// the less is left blank after it; up to 54 characters stand whole.
+double widthOf(std::size_t drawn_characters) {
+    return (static_cast<double>(drawn_characters) * 12 + 20) * 16;
 }
 
-void setSize(PictureBox& pic, std::size_t module_count, int rows) {
+void setSize(PictureBox& pic, std::size_t drawn_characters, int rows) {
     pic.Height(PictureBox::twips_per_pixel * rows);
-    pic.Width(widthInTwips(module_count));
+    pic.Width(widthOf(drawn_characters));
 }
 
 // Centred one pixel left of the middle of the bars, by the same calibration.
@@ -97,11 +96,12 @@ void DesenhaCode39(PictureBox& pic, std::int16_t escala, Text& texto, bool com_d
     texto = cleaned(texto);
     checkText(texto);
     const int bar_height = barHeight(escala);
-    const int text_y = rows_above + bar_height + rows_before_text;
+    const int bars_end = rows_above + bar_height;
+    const int text_y = bars_end + rows_before_text;
     const Text modules = modulesOf(texto, com_digito);
     beginSymbol(pic);
-    setSize(pic, modules.size(),
-            rows_below + (mostra_texto ? text_y + pic.TextHeight(texto) : rows_above + bar_height));
+    const int last_end = mostra_texto ? text_y + pic.TextHeight(texto) : bars_end;
+    setSize(pic, modules.size() / character_modules, last_end + rows_below);
     drawModules(pic, modules, first_module_x, rows_above, bar_height);
     if (mostra_texto) {
         printText(pic, texto, modules.size(), text_y);

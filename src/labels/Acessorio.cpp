@@ -30,6 +30,7 @@ constexpr auto layout = std::to_array<Row>({
     {logo},
     {price, hasPrice},
 
+    // Two lines of description
     {TrimmedEntry{{7.0F, 7.2F}, small_text, &LabelTexts::linha1}, hasTwoLines},
     {TrimmedEntry{{7.0F, 9.0F}, small_text, &LabelTexts::linha2}, hasTwoLines},
     {drawBars, hasTwoLines},
@@ -40,6 +41,7 @@ constexpr auto layout = std::to_array<Row>({
     {Digits{{9.5F, 16.1F}, small_text, 1, 6}, hasTwoLines},
     {Digits{{21.2F, 16.1F}, small_text, 7, 7}, hasTwoLines},
 
+    // One line, with the rest moved up
     {TrimmedEntry{{7.0F, 7.2F}, small_text, &LabelTexts::linha1}, hasOneLine},
     {drawBars, hasOneLine},
     {Bars{{{4.6F, 12.0F}, 35.0F, 8.0F}}, hasOneLine},
@@ -49,6 +51,7 @@ constexpr auto layout = std::to_array<Row>({
     {Digits{{9.5F, 15.6F}, small_text, 1, 6}, hasOneLine},
     {Digits{{21.2F, 15.8F}, small_text, 7, 7}, hasOneLine},
 
+    // Promotion and end of the item code
     {Entry{{37.5F, 9.1F}, {bold, 14, face::franklin_medium}, &LabelTexts::promocao}, hasPrice},
     {Entry{{35.4F, 14.5F}, {bold, 8, face::franklin_medium}, &LabelTexts::ref3}, hasPrice},
     {Entry{{37.5F, 8.1F}, {bold, 14, face::franklin_medium}, &LabelTexts::promocao}, hasNoPrice},

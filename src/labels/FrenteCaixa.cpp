@@ -31,7 +31,7 @@ void takeBarcode(FrmPadrao& form, const LabelTexts& label, const Point& /*origin
     surface.ScaleMode(ScaleMode::millimetres);
 }
 
-constexpr Font code_text{plain, 7, face::franklin_medium};
+constexpr Font line_text{plain, 7, face::franklin_medium};
 constexpr Font master_text{bold, 7, face::franklin_medium};
 
 constexpr Logo logo{.lumira = {{{2.5F, 0.0F}, 38.0F, 10.0F}, 300.0F},
@@ -58,14 +58,14 @@ constexpr auto layout = std::to_array<Row>({
     {Entry{{30.0F, -0.3F}, {bold, 12, face::franklin_medium}, &LabelTexts::ref3}, hasPrice},
     {Entry{{20.0F, -2.5F}, {bold, 30, face::franklin_medium}, &LabelTexts::ref3}, hasNoPrice},
     {price, hasPrice},
-    {Entry{{35.0F, 18.7F}, code_text, &LabelTexts::bandeira}},
+    {Entry{{35.0F, 18.7F}, line_text, &LabelTexts::bandeira}},
     {Entry{{2.3F, 19.0F}, master_text, &LabelTexts::master}, hasOneLine},
-    {Entry{{2.3F, 21.0F}, code_text, &LabelTexts::linha1}, hasOneLine},
-    {TrimmedEntry{{2.3F, 24.0F}, code_text, &LabelTexts::cor}, hasOneLine},
+    {Entry{{2.3F, 21.0F}, line_text, &LabelTexts::linha1}, hasOneLine},
+    {TrimmedEntry{{2.3F, 24.0F}, line_text, &LabelTexts::cor}, hasOneLine},
     {Entry{{2.3F, 18.0F}, master_text, &LabelTexts::master}, hasTwoLines},
-    {Entry{{2.3F, 21.0F}, code_text, &LabelTexts::linha1}, hasTwoLines},
-    {Entry{{2.3F, 24.0F}, code_text, &LabelTexts::linha2}, hasTwoLines},
-    {TrimmedEntry{{2.3F, 27.0F}, code_text, &LabelTexts::cor}, hasTwoLines},
+    {Entry{{2.3F, 21.0F}, line_text, &LabelTexts::linha1}, hasTwoLines},
+    {Entry{{2.3F, 24.0F}, line_text, &LabelTexts::linha2}, hasTwoLines},
+    {TrimmedEntry{{2.3F, 27.0F}, line_text, &LabelTexts::cor}, hasTwoLines},
     {Face{face::calibri}, hasSize}, // of the digits as well, which are in the face above otherwise
     {Entry{{4.1F, 31.0F}, {bold, 32}, &LabelTexts::numero}, hasSizeOf<1>},
     {Entry{{1.6F, 31.0F}, {bold, 32}, &LabelTexts::numero}, hasSizeOf<2>},
