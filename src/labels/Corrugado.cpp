@@ -96,12 +96,11 @@ void drawSizeRun(FrmPadrao& form, const LabelTexts& /*label*/, const Point& orig
     printCentred({35.0F, 117.0F}, form.txtgrade2.text);
 }
 
-constexpr Logo logo{.lumira = {{{3.0F, 6.5F}, 70.0F, 17.0F}, 300.0F},
-                    .brisako = {{{3.0F, 6.5F}, 70.0F, 17.0F}, 300.0F}};
+constexpr LogoStamp logo_of_either{{{3.0F, 6.5F}, 70.0F, 17.0F}, 300.0F};
 
 // All texts are in the one face that is set before the first label.
 constexpr auto layout = std::to_array<Row>({
-    {logo},
+    {Logo{.lumira = logo_of_either, .brisako = logo_of_either}},
     {Rule{{2.0F, 5.0F}, {99.0F, 5.4F}}},
     {Rule{{2.0F, 23.0F}, {99.0F, 23.4F}}},
     {Rule{{35.6F, 5.0F}, {35.9F, 23.4F}}},

@@ -101,7 +101,8 @@ using Special = void (*)(FrmPadrao& form, const LabelTexts& label, const Point& 
 /// Whether a label has a row.
 using Condition = bool (*)(const LabelTexts& label);
 
-/// A row of a layout. A `Weight` is the weight of what is measured next.
+/// A row of a layout, drawn in the place that it has among the others. A `Weight` by itself is left
+/// for the texts that are measured later.
 struct Row {
     std::variant<Rule, Heading, Entry, TrimmedEntry, Digits, Bars, Logo, PriceBlock, Face, Weight,
                  Special>
@@ -132,7 +133,7 @@ struct Row {
 [[nodiscard]] inline bool hasSize(const LabelTexts& label) {
     return !isBlank(label.numero);
 }
-/// True where the size has so many characters, blanks included, that are more than blanks.
+/// True where the size has `length` characters, blanks included, and is more than blanks.
 template <std::size_t length>
 [[nodiscard]] bool hasSizeOf(const LabelTexts& label) {
     return hasSize(label) && label.numero.size() == length;
