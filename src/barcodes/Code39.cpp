@@ -1,7 +1,7 @@
 #include "barcodes/Code39.h"
 
 #include "barcodes/BarFailure.h"
-#include "base/Numbers.h"
+#include "barcodes/Modules.h"
 
 #include <array>
 
@@ -10,7 +10,7 @@ namespace etiquetas {
 namespace {
 
 // Characters in the order of their values, and their patterns: twelve modules each, a wide element
-// being two, "1" dark. Source: ISO/IEC 16388, tables of the character set.
+// being two. Source: ISO/IEC 16388, tables of the character set.
 constexpr TextView characters = u"0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ-. $/+%*";
 constexpr std::array<TextView, 44> patterns{
     u"101001101101", u"110100101011", u"101100101011", u"110110010101", u"101001101011",
@@ -23,10 +23,6 @@ constexpr std::array<TextView, 44> patterns{
     u"100110110101", u"100101011011", u"110010101101", u"100110101101", u"100100100101",
     u"100100101001", u"100101001001", u"101001001001", u"100101101101"};
 constexpr std::size_t start_and_stop = 43; // value of "*"
-constexpr std::size_t check_modulus = 43;
-
-constexpr int bar_top = 10;
-constexpr int quiet_pixels = 10;
 
 Text cleaned(TextView text) {
     return upperCase(replaceAll(text, u"*", u""));
@@ -38,56 +34,58 @@ void checkText(TextView text) {
     }
 }
 
-// Draws the symbol from left to right; the pen moves on by one pixel with each module.
-class Symbol {
-  public:
-    Symbol(PictureBox& pic, int bar_height) : pic_(pic), bar_height_(bar_height) {}
-
-    void draw(TextView texto, bool com_digito) {
-        std::size_t sum = 0;
-        drawCharacter(start_and_stop);
-        for (const char16_t character : texto) {
-            const std::size_t value = characters.find(character);
-            sum += value;
-            drawCharacter(value);
-        }
-        if (com_digito) {
-            drawCharacter(sum % check_modulus);
-        }
-        drawCharacter(start_and_stop);
+// The sum of the values, modulo the 43 characters beside "*".
+std::size_t checkValue(TextView text) {
+    constexpr std::size_t modulus = 43;
+    std::size_t sum = 0;
+    for (const char16_t character : text) {
+        sum += characters.find(character);
     }
+    return sum % modulus;
+}
 
-    // Under the middle of the bars.
-    void printText(TextView texto) {
-        pic_.CurrentX((cursor_ + 2 * quiet_pixels) / 2.0 - pic_.TextWidth(texto) / 2.0);
-        pic_.CurrentY(bar_height_ + 15);
-        pic_.Print(texto);
+// A character, and the narrow gap after it.
+Text modulesOf(std::size_t value) {
+    return Text(patterns[value]).append(u"0");
+}
+
+// The characters between start and stop.
+Text modulesOf(TextView text, bool with_check_character) {
+    Text modules = modulesOf(start_and_stop);
+    for (const char16_t character : text) {
+        modules.append(modulesOf(characters.find(character)));
     }
-
-  private:
-    // Twelve modules, and the gap behind them.
-    void drawCharacter(std::size_t value) {
-        for (const char16_t module : patterns[value]) {
-            drawModule(module == u'1' ? black_pixel : white_pixel);
-        }
-        drawModule(white_pixel);
+    if (with_check_character) {
+        modules.append(modulesOf(checkValue(text)));
     }
+    return modules.append(modulesOf(start_and_stop));
+}
 
-    void drawModule(Pixel colour) {
-        ++cursor_;
-        const int x = cursor_ + quiet_pixels;
-        pic_.Line(x, bar_top, x, bar_top + bar_height_, colour);
-    }
+constexpr std::size_t character_modules = 13; // gap included
 
-    PictureBox& pic_;
-    int bar_height_;
-    int cursor_ = 1;
-};
+// Blank rows above the bars and at the bottom, and those between the bars and a text under them.
+constexpr int rows_above = 10;
+constexpr int rows_below = 10;
+constexpr int rows_before_text = 5;
+// Two pixels more than the quiet zone of 10 modules that Code 39 asks for.
+constexpr int first_module_x = 12;
 
-void setSize(PictureBox& pic, int bar_height, std::size_t drawn_characters, double text_height) {
-    constexpr double pixels_per_character = 12; // one less than are drawn
-    pic.Height(PictureBox::twips_per_pixel * (bar_height + text_height));
-    pic.Width((static_cast<double>(drawn_characters) * pixels_per_character + 20) * 16);
+// Twips. By the calibration of this system a character counts 12 pixels, one less than are drawn,
+// with 20 for the edges, and a pixel 16 twips, one more than the raster has. The longer the symbol,
+// the less is left blank after it; up to 54 characters stand whole.
+double widthOf(std::size_t drawn_characters) {
+    return (static_cast<double>(drawn_characters) * 12 + 20) * 16;
+}
+
+void setSize(PictureBox& pic, std::size_t drawn_characters, int rows) {
+    pic.Height(PictureBox::twips_per_pixel * rows);
+    pic.Width(widthOf(drawn_characters));
+}
+
+// Centred one pixel left of the middle of the bars, by the same calibration.
+void printText(PictureBox& pic, TextView text, std::size_t module_count, int y) {
+    const double middle = first_module_x + (static_cast<double>(module_count) - 3) / 2;
+    printAt(pic, middle - pic.TextWidth(text) / 2.0, y, text);
 }
 
 } // namespace
@@ -97,19 +95,18 @@ void DesenhaCode39(PictureBox& pic, std::int16_t escala, Text& texto, bool com_d
     pic.Picture({});
     texto = cleaned(texto);
     checkText(texto);
-    const int bar_height = toInteger16(std::int32_t{escala} * 10);
-    pic.BackColor(white_pixel);
-    pic.AutoRedraw(true);
-    pic.ScaleMode(ScaleMode::pixels);
-    const std::size_t beside_text = com_digito ? 3 : 2;
-    setSize(pic, bar_height, texto.size() + beside_text,
-            mostra_texto ? pic.TextHeight(texto) + 25.0 : 20.0);
-    Symbol symbol(pic, bar_height);
-    symbol.draw(texto, com_digito);
+    const int bar_height = barHeight(escala);
+    const int bars_end = rows_above + bar_height;
+    const int text_y = bars_end + rows_before_text;
+    const Text modules = modulesOf(texto, com_digito);
+    beginSymbol(pic);
+    const int last_end = mostra_texto ? text_y + pic.TextHeight(texto) : bars_end;
+    setSize(pic, modules.size() / character_modules, last_end + rows_below);
+    drawModules(pic, modules, first_module_x, rows_above, bar_height);
     if (mostra_texto) {
-        symbol.printText(texto);
+        printText(pic, texto, modules.size(), text_y);
     }
-    pic.Picture(pic.Image());
+    endSymbol(pic);
 }
 
 } // namespace etiquetas

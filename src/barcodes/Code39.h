@@ -8,9 +8,8 @@
 namespace etiquetas {
 
 /// Draws a Code 39 symbol (ISO/IEC 16388) in a picture, one pixel to a module, ready to be stamped:
-/// bars from row 10 on, between two "*", with one white pixel behind each character. The picture is
-/// reckoned with 12 pixels to a character, of which 13 are drawn; its quiet zones make up for it in
-/// symbols of up to about 40 characters.
+/// bars from column 12 and row 10 on, between two "*", with one white pixel after each character. A
+/// symbol of more than 54 characters, those two included, is cut off at the picture's right edge.
 ///
 /// `escala` is the bar height in tens of pixels, up to 3276. `texto` comes back as it is drawn:
 /// without any "*", in upper case. `com_digito` adds the check character of modulo 43, which

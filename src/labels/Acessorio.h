@@ -9,7 +9,7 @@ namespace etiquetas {
 struct FrmPadrao;
 
 /// Draws `quantidade` accessory labels, 40 by 20 mm, two across, from column `coluna_etiqueta` on.
-/// A description too wide for one line is broken behind the last separator up to the first
+/// A description too wide for one line is broken after the last separator up to the first
 /// character that is too much; one without a separator there is not printed. A price of "0,00" is
 /// none.
 ///

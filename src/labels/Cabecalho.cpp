@@ -1,6 +1,6 @@
 #include "labels/Cabecalho.h"
 
-#include "labels/LabelLayout.h"
+#include "labels/LabelDrawing.h"
 #include "model/FrmPadrao.h"
 
 namespace etiquetas {
@@ -13,7 +13,7 @@ constexpr float altura_mm = 6;
 
 void drawHiddenHeader(FrmPadrao& form) {
     PrintSurface& surface = form.platform.surface;
-    useFont(surface, {face::franklin_medium, true, 10});
+    useFont(surface, {Weight::bold, 10, face::franklin_medium});
     const Text pedido = Text(rotulo) + form.txtarquivo.text;
     printAt(surface, {form.Margem_oculta1 + 3.0F, altura_mm}, pedido);
     printAt(surface, {form.Margem_oculta11 + 6.0F, altura_mm}, pedido);
@@ -22,7 +22,7 @@ void drawHiddenHeader(FrmPadrao& form) {
 // Word and number are two texts here, 3 mm apart: the number overprints the end of the word.
 void drawBoxFrontHeader(FrmPadrao& form) {
     PrintSurface& surface = form.platform.surface;
-    useFont(surface, {face::franklin_medium, true, 12});
+    useFont(surface, {Weight::bold, 12, face::franklin_medium});
     for (const float margem : {form.Mx4045_1, form.Mx4045_2}) {
         printAt(surface, {margem + 3.0F, altura_mm}, rotulo);
         printAt(surface, {margem + 6.0F, altura_mm}, form.txtarquivo.text);

@@ -1,113 +1,153 @@
 #pragma once
 
 #include "base/Text.h"
-#include "platform/PrintSurface.h"
+#include "labels/LabelDrawing.h"
+#include "labels/LabelPictures.h"
+#include "labels/PriceBlock.h"
 
-#include <optional>
+#include <cstddef>
+#include <span>
+#include <variant>
 
 namespace etiquetas {
 
-// What label layouts are made of, and how their pieces are drawn. Millimetres, in single precision.
+struct FrmPadrao;
 
-/// Faces of the label texts.
-namespace face {
-inline constexpr TextView calibri = u"Calibri";
-inline constexpr TextView franklin_medium = u"Franklin Gothic Medium";
-inline constexpr TextView franklin_semilight = u"Franklin Gothic Semilight";
-inline constexpr TextView malgun_semilight = u"Malgun Gothic Semilight";
-} // namespace face
+// What the layouts of the labels are made of. A layout is one table of rows in drawing order;
+// offsets are millimetres from the label's origin.
 
-/// Behind these characters a description may be broken.
-inline constexpr TextView separators = u" -/.";
-
-/// Face, weight and size in points of a text.
-struct Font {
-    TextView face;
-    bool bold;
-    float points;
+/// The texts of a label, named after the fields that they come from. Each renderer fills those that
+/// its layout prints.
+struct LabelTexts {
+    /// Banner: "L" for LUMIRA, else BRISA KO.
+    TextView flag = {};
+    /// Lines of the description, as the renderer has broken it.
+    TextView linha1 = {};
+    TextView linha2 = {};
+    TextView linha3 = {};
+    TextView descricao = {};
+    TextView cor = {};
+    /// End of the item code.
+    TextView ref3 = {};
+    TextView codigo = {};
+    TextView master = {};
+    TextView barra = {};
+    /// Size of the pair.
+    TextView numero = {};
+    TextView preco = {};
+    TextView promocao = {};
+    TextView semana = {};
+    TextView bandeira = {};
+    // Of the carton alone.
+    TextView destino = {};
+    TextView pedido = {};
+    TextView fornecedor = {};
+    TextView totgrade = {};
+    TextView volume = {};
 };
 
-/// A place on the surface, or one from the label's origin.
-struct Point {
-    float x;
-    float y;
-};
+// What a row draws, or changes for the rows after it.
 
-/// A box on the surface, or one from the label's origin.
-struct Box {
-    Point corner;
-    float width;
-    float height;
-};
-
-/// A text of a layout: its font, and where its top-left corner stands from the label's origin.
-struct TextItem {
-    Font font;
-    Point offset;
-};
-
-/// A ruled line of a layout: a black box between two corners.
+/// A ruled line: a black box between two corners.
 struct Rule {
     Point first;
     Point second;
 };
 
-/// The place at an offset from the origin.
-[[nodiscard]] constexpr Point at(const Point& origin, const Point& offset) {
-    return {origin.x + offset.x, origin.y + offset.y};
+/// A text that all labels of the layout have.
+struct Heading {
+    Point offset;
+    Font font;
+    TextView text;
+};
+
+/// A text of the label, after the words that stand before it.
+struct Entry {
+    Point offset;
+    Font font;
+    TextView LabelTexts::*text;
+    TextView words_before = {};
+};
+
+/// A text of the label without the blanks at its ends.
+struct TrimmedEntry {
+    Point offset;
+    Font font;
+    TextView LabelTexts::*text;
+};
+
+/// Characters of the barcode that `txtbarra` has, from the one with the number `first` on; the
+/// first of all is 1.
+struct Digits {
+    Point offset;
+    Font font;
+    std::size_t first;
+    std::size_t count;
+};
+
+/// The bars that were last drawn in `Picture1`, as a stamp.
+struct Bars {
+    Box box;
+};
+
+/// The face of the rows whose fonts have none.
+struct Face {
+    TextView name;
+};
+
+/// What is drawn by a rule of its own, `origin` being that of the texts.
+using Special = void (*)(FrmPadrao& form, const LabelTexts& label, const Point& origin);
+
+/// Whether a label has a row.
+using Condition = bool (*)(const LabelTexts& label);
+
+/// A row of a layout, drawn in the place that it has among the others. A `Weight` by itself is left
+/// for the texts that are measured later.
+struct Row {
+    std::variant<Rule, Heading, Entry, TrimmedEntry, Digits, Bars, Logo, PriceBlock, Face, Weight,
+                 Special>
+        item;
+    /// Without a condition all labels have the row.
+    Condition only_if = nullptr;
+};
+
+// Conditions that layouts share.
+
+/// False where the price, trimmed, is "0,00".
+[[nodiscard]] inline bool hasPrice(const LabelTexts& label) {
+    return trimmed(label.preco) != sem_preco;
+}
+[[nodiscard]] inline bool hasNoPrice(const LabelTexts& label) {
+    return !hasPrice(label);
 }
 
-/// The box with its corner at an offset from the origin.
-[[nodiscard]] constexpr Box at(const Point& origin, const Box& box) {
-    return {at(origin, box.corner), box.width, box.height};
+/// True where the second line of the description is more than blanks.
+[[nodiscard]] inline bool hasTwoLines(const LabelTexts& label) {
+    return !isBlank(label.linha2);
+}
+[[nodiscard]] inline bool hasOneLine(const LabelTexts& label) {
+    return !hasTwoLines(label);
 }
 
-/// Count of the first characters whose width together, in the font and unit that are set, passes a
-/// test; one more than there are characters where none does.
-template <typename Test>
-[[nodiscard]] std::size_t firstPrefix(const PrintSurface& surface, TextView text, Test&& test) {
-    std::size_t count = 1;
-    while (count <= text.size() && !test(surface.TextWidth(left(text, count)))) {
-        ++count;
-    }
-    return count;
+/// True where the size is more than blanks.
+[[nodiscard]] inline bool hasSize(const LabelTexts& label) {
+    return !isBlank(label.numero);
+}
+/// True where the size has `length` characters, blanks included, and is more than blanks.
+template <std::size_t length>
+[[nodiscard]] bool hasSizeOf(const LabelTexts& label) {
+    return hasSize(label) && label.numero.size() == length;
 }
 
-/// Sets face, size and weight of the next text.
-inline void useFont(PrintSurface& surface, const Font& font) {
-    surface.FontName(font.face);
-    surface.FontSize(font.points);
-    surface.FontBold(font.bold);
-}
+/// Where a label stands on the page: its texts and bars from one origin, its rules and logo from
+/// another.
+struct Origins {
+    Point texts;
+    Point rules;
+};
 
-/// Prints a text with its top-left corner at a place, in the font that is set. An empty text draws
-/// nothing.
-inline void printAt(PrintSurface& surface, const Point& place, TextView text) {
-    surface.CurrentX(place.x);
-    surface.CurrentY(place.y);
-    surface.Print(text);
-}
-
-/// Prints a text of a layout.
-inline void printItem(PrintSurface& surface, const TextItem& item, const Point& origin,
-                      TextView text) {
-    useFont(surface, item.font);
-    printAt(surface, at(origin, item.offset), text);
-}
-
-/// Stamps a picture on a box of the surface; `source_width` pixels of its width, from the
-/// left, where that is given.
-inline void stamp(PrintSurface& surface, const Picture& picture, const Box& box,
-                  std::optional<float> source_width = {}) {
-    surface.PaintPicture(picture, box.corner.x, box.corner.y, box.width, box.height,
-                         SourceArea{.width = source_width});
-}
-
-/// Draws a ruled line of a layout.
-inline void drawRule(PrintSurface& surface, const Rule& rule, const Point& origin) {
-    const Point first = at(origin, rule.first);
-    const Point second = at(origin, rule.second);
-    surface.Line(filled_box, first.x, first.y, second.x, second.y, black_pixel);
-}
+/// Draws the rows that the label has.
+void drawLayout(FrmPadrao& form, std::span<const Row> layout, const LabelTexts& label,
+                const Origins& origins);
 
 } // namespace etiquetas

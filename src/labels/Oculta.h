@@ -12,7 +12,7 @@ struct FrmPadrao;
 /// `coluna_etiqueta` on. The description is broken once for all of them; a description that fits
 /// one line lets the colour move up.
 ///
-/// `flag` is the banner ("L" or other): without a size, a label of the other banner ends behind its
+/// `flag` is the banner ("L" or other): without a size, a label of the other banner ends after its
 /// barcode digits. `barra` has 12 or 13 digits; one that is refused is a failure that ends the
 /// drawing at its first label. `ref3` is the end of the item code, `numero` the size. `NomeFonte`
 /// takes the face of the label's small texts.

@@ -1,13 +1,10 @@
 #include "labels/PriceBlock.h"
 
-#include <array>
-#include <span>
+#include <initializer_list>
 
 namespace etiquetas {
 
 namespace {
-
-constexpr std::size_t cents_length = 2;
 
 float widthIn(PrintSurface& surface, const Font& font, TextView text) {
     useFont(surface, font);
@@ -15,8 +12,8 @@ float widthIn(PrintSurface& surface, const Font& font, TextView text) {
 }
 
 // Prints a text to the left of those with these widths, its own being one of them.
-void printBefore(PrintSurface& surface, const PriceItem& item, const Point& origin,
-                 std::span<const float> widths, TextView text) {
+void printBefore(PrintSurface& surface, const PriceText& item, const Point& origin,
+                 std::initializer_list<float> widths, TextView text) {
     float x = origin.x + item.edge;
     for (const float width : widths) {
         x -= width;
@@ -27,26 +24,24 @@ void printBefore(PrintSurface& surface, const PriceItem& item, const Point& orig
 
 } // namespace
 
-bool hasPrice(TextView preco) {
-    return trimmed(preco) != sem_preco;
-}
-
-void printPrice(PrintSurface& surface, const PriceLayout& layout, const Point& origin,
+void printPrice(PrintSurface& surface, const PriceBlock& block, const Point& origin,
                 TextView preco) {
     constexpr TextView currency = u"R$";
     constexpr TextView terms = u"À VISTA";
-    // Without a comma the whole part is empty.
+    constexpr std::size_t cents_length = 2;
+    // Without a comma the whole part is empty: npos + 1 is 0.
     const TextView whole = left(preco, preco.find(u',') + 1);
     const TextView cents = right(preco, cents_length);
-    std::array<float, 4> widths{}; // from the right: cents, whole part, "R$", "À VISTA"
-    widths[0] = widthIn(surface, layout.cents_measure, cents);
-    widths[1] = widthIn(surface, layout.whole.font, whole);
-    printBefore(surface, layout.whole, origin, std::span(widths).first(2), whole);
-    printBefore(surface, layout.cents, origin, std::span(widths).first(1), cents);
-    widths[2] = widthIn(surface, layout.currency.font, currency);
-    printBefore(surface, layout.currency, origin, std::span(widths).first(3), currency);
-    widths[3] = widthIn(surface, layout.terms.font, terms);
-    printBefore(surface, layout.terms, origin, widths, terms);
+    const float cents_width = widthIn(surface, block.cents_measure, cents);
+    const float whole_width = widthIn(surface, block.whole.font, whole);
+    printBefore(surface, block.whole, origin, {cents_width, whole_width}, whole);
+    printBefore(surface, block.cents, origin, {cents_width}, cents);
+    const float currency_width = widthIn(surface, block.currency.font, currency);
+    printBefore(surface, block.currency, origin, {cents_width, whole_width, currency_width},
+                currency);
+    const float terms_width = widthIn(surface, block.terms.font, terms);
+    printBefore(surface, block.terms, origin,
+                {cents_width, whole_width, currency_width, terms_width}, terms);
 }
 
 } // namespace etiquetas

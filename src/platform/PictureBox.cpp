@@ -81,7 +81,7 @@ int PictureBox::TextHeight(TextView text) const {
 }
 
 void PictureBox::resize() {
-    // What was drawn goes: every drawing sets its size first.
+    // What was drawn is gone: every drawing sets its size first.
     drawn_.width = pixelsOf(width_);
     drawn_.height = pixelsOf(height_);
     drawn_.pixels.assign(static_cast<std::size_t>(drawn_.width) *

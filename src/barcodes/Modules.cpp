@@ -1,0 +1,35 @@
+#include "barcodes/Modules.h"
+
+#include "base/Numbers.h"
+
+namespace etiquetas {
+
+int barHeight(std::int16_t escala) {
+    constexpr std::int32_t pixels_to_one = 10;
+    return toInteger16(std::int32_t{escala} * pixels_to_one);
+}
+
+void beginSymbol(PictureBox& pic) {
+    pic.BackColor(white_pixel);
+    pic.AutoRedraw(true);
+    pic.ScaleMode(ScaleMode::pixels);
+}
+
+void drawModules(PictureBox& pic, TextView modules, int x, int top, int height) {
+    for (const char16_t module : modules) {
+        pic.Line(x, top, x, top + height, module == u'1' ? black_pixel : white_pixel);
+        ++x;
+    }
+}
+
+void printAt(PictureBox& pic, double x, double y, TextView text) {
+    pic.CurrentX(x);
+    pic.CurrentY(y);
+    pic.Print(text);
+}
+
+void endSymbol(PictureBox& pic) {
+    pic.Picture(pic.Image());
+}
+
+} // namespace etiquetas
