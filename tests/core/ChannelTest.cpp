@@ -75,14 +75,14 @@ class ChannelTest : public testing::Test, protected Workbench {
 
 TEST_F(ChannelTest, CommandFileOfEachPortIsWrittenOnceAndStarted) {
     form.LBLPORTAPARELELA.caption = u"Lpt2";
-    using Case = std::tuple<TextView, TextView, FimDoComando, Text>;
+    using Case = std::tuple<TextView, TextView, CommandFileEnd, Text>;
     const Text mapped = u"net use Lpt2: /delete\r\nnet use Lpt2: \\\\127.0.0.1\\";
     const Text typed = u"type epltemp.prn > Lpt2";
     for (const auto& [kind, share, end, lines] :
-         {Case{u"PARALELA", u"", FimDoComando::simples, typed},
-          Case{u"paralela", u"Zebra", FimDoComando::com_avanco, typed + u"\n"},
-          Case{u"PARALELA ", u"", FimDoComando::simples, mapped + u" /yes\r\n" + typed},
-          Case{u"Label17", u" Pé 1 ", FimDoComando::com_avanco,
+         {Case{u"PARALELA", u"", CommandFileEnd::plain, typed},
+          Case{u"paralela", u"Zebra", CommandFileEnd::extra_line_feed, typed + u"\n"},
+          Case{u"PARALELA ", u"", CommandFileEnd::plain, mapped + u" /yes\r\n" + typed},
+          Case{u"Label17", u" Pé 1 ", CommandFileEnd::extra_line_feed,
                mapped + u"Pé 1 /yes\r\n" + typed + u"\n"}}) {
         machine.log.clear();
         machine.files.bytes.erase(command);
@@ -96,11 +96,11 @@ TEST_F(ChannelTest, CommandFileOfEachPortIsWrittenOnceAndStarted) {
     }
     machine.files.bytes[command] = "old";
     machine.failing = {"start"};
-    sendProgram(form, {}, FimDoComando::simples);
+    sendProgram(form, {}, CommandFileEnd::plain);
     EXPECT_EQ(machine.files.bytes[command] + job, "old");
     machine.files.bytes.erase(command);
     machine.failing = {"write"};
-    sendProgram(form, {}, FimDoComando::simples);
+    sendProgram(form, {}, CommandFileEnd::plain);
     EXPECT_EQ(machine.log.back(), "start /programa/IMPRIMIR.BAT");
     EXPECT_FALSE(machine.files.fileExists(u"/programa/epltemp.prn")) << "no job is sent twice";
 }
