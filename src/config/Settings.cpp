@@ -3,14 +3,13 @@
 #include "base/CodePage.h"
 #include "base/Failure.h"
 #include "config/Profile.h"
+#include "config/ProgramFiles.h"
 
 #include <array>
 
 namespace etiquetas {
 
 namespace {
-
-constexpr TextView nome_ini = u"Varesko.ini";
 
 struct Ajuste {
     TextView chave;
@@ -37,8 +36,8 @@ std::string bytesOf(const Files& files, TextView file) {
 
 Text settingsPath(const Files& files) {
     const Text folder = files.programFolder();
-    const auto found = findFile(files, folder, nome_ini);
-    return found ? *found : joined(files, folder, nome_ini);
+    const auto found = findFile(files, folder, settings_file);
+    return found ? *found : joined(files, folder, settings_file);
 }
 
 Text LeIni(const Files& files, TextView file, TextView section, TextView key,
@@ -58,7 +57,7 @@ void GravaIni(Files& files, TextView section, TextView key, TextView value, Text
 }
 
 void deleteCommandFile(Files& files) {
-    const Text comando = joined(files, files.programFolder(), u"IMPRIMIR.BAT");
+    const Text comando = joined(files, files.programFolder(), command_file);
     skip([&] {
         if (files.fileExists(comando)) {
             files.deleteFile(comando);

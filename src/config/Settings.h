@@ -12,7 +12,7 @@ inline constexpr TextView impressora = u"Impressora";
 inline constexpr TextView margens = u"MargemOcultaZebra";
 } // namespace ini_section
 
-/// Path of the settings file "Varesko.ini" in the program's folder; a file that is there keeps the
+/// Path of the settings file in the program's folder; a file that is there keeps the
 /// case of its name. Formed anew by every reader and writer just before use.
 [[nodiscard]] Text settingsPath(const Files& files);
 
@@ -25,7 +25,7 @@ inline constexpr TextView margens = u"MargemOcultaZebra";
 /// missing. A file that can't be written stays as it is, and nobody is told.
 void GravaIni(Files& files, TextView section, TextView key, TextView value, TextView file);
 
-/// Deletes the command file "IMPRIMIR.BAT" of the direct printer channel from the program's folder,
+/// Deletes the command file of the direct printer channel from the program's folder,
 /// where there is one; one that can't be deleted stays.
 void deleteCommandFile(Files& files);
 

@@ -201,7 +201,7 @@ void fillBlankFields(MargensDialog& dialog, std::span<const Entry> entries) {
 void copyCode(const FrmPadrao& form, MargensDialog& dialog) {
     const Text& codigo = form.txtcodigo.text;
     if (dialog.txtcodigo) {
-        dialog.txtcodigo->text = isBlank(codigo) ? u"50100779" : codigo;
+        dialog.txtcodigo->text = isBlank(codigo) ? sample_code : codigo;
     }
 }
 

@@ -7,6 +7,9 @@
 
 namespace etiquetas {
 
+/// The item code that a margin dialog takes where no item is loaded.
+inline constexpr TextView sample_code = u"50100779";
+
 // Each opening of a dialog starts from the fields as they are designed here. `to_front` is set when
 // an open dialog is asked for again: whoever shows the dialog brings it to the front and clears it.
 

@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/Numbers.h"
+#include "config/ProgramFiles.h"
 #include "model/FrmPadrao.h"
 #include "orders/OrderFormat.h"
 #include "platform/Files.h"
@@ -90,7 +91,7 @@ void pega_imagem(FrmPadrao& form) {
     form.tem_imagem = false;
     form.pctimage.picture.reset();
     const Files& files = form.platform.files;
-    const Text folder = joined(files, files.programFolder(), u"imagens");
+    const Text folder = joined(files, files.programFolder(), photograph_folder);
     const auto photograph =
         findFile(files, folder, Text(trimmed(form.txtcodigo.text)).append(u".jpg"));
     if (!photograph) {

@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "base/Numbers.h"
 #include "model/FrmPadrao.h"
+#include "model/LabelCounts.h"
 #include "platform/MessageBoxes.h"
 
 #include <algorithm>
@@ -10,8 +11,6 @@
 namespace etiquetas {
 
 namespace {
-
-constexpr std::int32_t hidden_labels_per_pair = 2;
 
 void showTotals(FrmPadrao& form, std::int16_t total) {
     const std::int16_t hidden = toInteger16(std::int32_t{total} * hidden_labels_per_pair);

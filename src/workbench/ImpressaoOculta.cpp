@@ -1,6 +1,7 @@
 #include "base/Numbers.h"
 #include "labels/Cabecalho.h"
 #include "labels/Oculta.h"
+#include "model/LabelCounts.h"
 #include "workbench/ImpressaoRamos.h"
 
 namespace etiquetas {
@@ -16,13 +17,11 @@ Course checkQuantity(FrmPadrao& form) {
     return Course::ends;
 }
 
-// Two labels for each pair.
 void drawSize(FrmPadrao& form, std::size_t slot) {
-    constexpr std::int32_t labels_per_pair = 2;
     const std::int16_t pairs = toInteger16(form.txtnumero[slot].text);
     Imprime_Oculta_40_20_2(form, form.marca_logo, trimmed(form.txtdescricao.text), ref3(form),
                            form.lblmaster.caption, form.lblbarra.caption, form.Label7[slot].caption,
-                           toInteger16(pairs * labels_per_pair), form.txtcor.text);
+                           toInteger16(pairs * hidden_labels_per_pair), form.txtcor.text);
 }
 
 Course printSize(FrmPadrao& form, std::size_t slot) {

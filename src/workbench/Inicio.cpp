@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "base/Numbers.h"
 #include "base/Version.h"
+#include "config/ProgramFiles.h"
 #include "config/Settings.h"
 #include "model/FrmPadrao.h"
 #include "orders/ItemSlots.h"
@@ -38,7 +39,7 @@ void listPrinters(FrmPadrao& form) {
 void ensurePhotographFolder(FrmPadrao& form) {
     Files& files = form.platform.files;
     skip([&] {
-        const Text folder = joined(files, files.programFolder(), u"imagens");
+        const Text folder = joined(files, files.programFolder(), photograph_folder);
         if (!files.folderExists(folder)) {
             files.makeFolder(folder);
         }
@@ -53,8 +54,8 @@ struct Logo {
 };
 
 constexpr std::array<Logo, 2> logos{{
-    {u"brisako.jpg", u" Brisako.jpg", &FrmPadrao::pctlogo1, &FrmPadrao::LogoBrisakoOk},
-    {u"lumira.jpg", u" Lumira.jpg", &FrmPadrao::pctlogo2, &FrmPadrao::LogoLumiraOk},
+    {brisako_logo, u" Brisako.jpg", &FrmPadrao::pctlogo1, &FrmPadrao::LogoBrisakoOk},
+    {lumira_logo, u" Lumira.jpg", &FrmPadrao::pctlogo2, &FrmPadrao::LogoLumiraOk},
 }};
 
 // False when the logo is not there; one that is no picture is left empty without a word.
