@@ -1,5 +1,7 @@
 #include "channel/CommandFile.h"
 
+#include "config/ProgramFiles.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -85,7 +87,7 @@ std::vector<PortCommand> portCommands(TextView port, const std::optional<Text>& 
         commands.emplace_back(UnmapPort{Text(port)});
         commands.emplace_back(MapPort{Text(port), *share});
     }
-    commands.emplace_back(TypeFile{u"epltemp.prn", Text(port)});
+    commands.emplace_back(TypeFile{Text(job_file), Text(port)});
     return commands;
 }
 
@@ -102,15 +104,15 @@ std::optional<PortCommand> readCommandLine(TextView line) {
     return {};
 }
 
-std::vector<PortCommand> readCommandFile(TextView command_file) {
+std::vector<PortCommand> readCommandFile(TextView text) {
     constexpr TextView line_ends = u"\r\n";
     std::vector<PortCommand> commands;
-    while (!command_file.empty()) {
-        const TextView line = command_file.substr(0, command_file.find_first_of(line_ends));
+    while (!text.empty()) {
+        const TextView line = text.substr(0, text.find_first_of(line_ends));
         if (auto command = readCommandLine(line)) {
             commands.push_back(*std::move(command));
         }
-        command_file.remove_prefix(std::min(line.size() + 1, command_file.size()));
+        text.remove_prefix(std::min(line.size() + 1, text.size()));
     }
     return commands;
 }

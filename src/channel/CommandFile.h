@@ -47,8 +47,8 @@ using PortCommand = std::variant<UnmapPort, MapPort, TypeFile>;
 /// The command of one line, without regard to case; nothing for any other line.
 [[nodiscard]] std::optional<PortCommand> readCommandLine(TextView line);
 
-/// The commands of a whole command file, in order. Carriage returns and line feeds end its lines,
-/// and other lines are passed over.
-[[nodiscard]] std::vector<PortCommand> readCommandFile(TextView command_file);
+/// The commands in the text of a command file, in order. Carriage returns and line feeds end its
+/// lines, and other lines are passed over.
+[[nodiscard]] std::vector<PortCommand> readCommandFile(TextView text);
 
 } // namespace etiquetas

@@ -5,6 +5,7 @@
 #include "channel/EtiquetasDeTeste.h"
 #include "channel/Languages.h"
 #include "model/FrmPadrao.h"
+#include "model/MargensDialog.h"
 #include "support/Module1.h"
 
 namespace etiquetas {
@@ -108,7 +109,7 @@ void loadTop(const Files& files, MargensLinguagem& dialog) {
 void loadCode(const FrmPadrao& form, MargensLinguagem& dialog) {
     if (dialog.txtcodigo) {
         dialog.txtcodigo->text = form.txtcodigo.text;
-        fillBlank(*dialog.txtcodigo, u"50100779");
+        fillBlank(*dialog.txtcodigo, sample_code);
     }
 }
 

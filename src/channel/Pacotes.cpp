@@ -5,6 +5,7 @@
 #include "channel/Transporte.h"
 #include "channel/Zpl.h"
 #include "model/FrmPadrao.h"
+#include "model/LabelCounts.h"
 #include "platform/Focus.h"
 #include "platform/MessageBoxes.h"
 
@@ -22,7 +23,6 @@ const TextField& quantityField(const FrmPadrao& form) {
 }
 
 Text quantitiesLine(const FrmPadrao& form) {
-    constexpr std::int32_t hidden_labels_per_pair = 2;
     const std::int16_t pares = toInteger16(quantityField(form).text);
     return zplField(u"540, 40", u"^A0N,25,25^FD",
                     u"Qte: " + numberText(toInteger16(pares * hidden_labels_per_pair)) +

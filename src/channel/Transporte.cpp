@@ -3,6 +3,7 @@
 #include "base/CodePage.h"
 #include "base/Failure.h"
 #include "channel/CommandFile.h"
+#include "config/ProgramFiles.h"
 #include "model/FrmPadrao.h"
 #include "platform/CommandStart.h"
 #include "platform/Files.h"
@@ -51,8 +52,8 @@ void writeJob(Files& files, const Text& path, const PrinterProgram& program) {
 void sendProgram(FrmPadrao& form, const PrinterProgram& program, CommandFileEnd end) {
     Files& files = form.platform.files;
     const Text folder = files.programFolder();
-    const Text command = joined(files, folder, u"IMPRIMIR.BAT");
-    writeJob(files, joined(files, folder, u"epltemp.prn"), program);
+    const Text command = joined(files, folder, command_file);
+    writeJob(files, joined(files, folder, job_file), program);
     skip([&] {
         if (!files.fileExists(command)) {
             files.replace(command, bytesOf(commandLines(form, end)));

@@ -9,8 +9,8 @@ namespace etiquetas {
 
 struct FrmPadrao;
 
-// The road of labels in a printer language: the program goes into the job file "epltemp.prn", and
-// the command file "IMPRIMIR.BAT" takes that to the printer's port.
+// The road of labels in a printer language: the program goes into the job file, and the
+// command file takes that to the printer's port.
 
 /// A program in a printer language, line by line.
 using PrinterProgram = std::vector<Text>;
