@@ -23,6 +23,8 @@ struct LineCase {
     std::string name;
     Text line;
     std::optional<PortCommand> command;
+
+    friend void PrintTo(const LineCase& that, std::ostream* out) { *out << that.name; }
 };
 
 class CommandLineTest : public testing::TestWithParam<LineCase> {};

@@ -48,6 +48,9 @@ TEST_F(EtiquetasDeTesteTest, HiddenLabelInThreeColumnsInZpl) {
     EXPECT_TRUE(machine.files.bytes[command].ends_with("> LPT1\r\n"));
     EXPECT_EQ(shownColumns(dialog), (std::vector<Text>{u" 5", u"305", u"x.y"}));
     EXPECT_EQ(dialog.txtmargemsuperior->text, u"30");
+    dialog.txtmargemsuperior->text = u" 30 ";
+    test(dialog, {u" 5 ", u"305", u"x.y"});
+    EXPECT_TRUE(holdsProgram(job, "zpl_hidden_3_columns"));
     EXPECT_FALSE(machine.files.fileExists(u"/programa/Varesko.ini")) << "a test stores nothing";
 }
 

@@ -20,6 +20,8 @@ struct DialogCase {
     // The top margin of an opened dialog, empty where it has none.
     Text top_without_file;
     Text top_of_blank_key;
+
+    friend void PrintTo(const DialogCase& that, std::ostream* out) { *out << that.name; }
 };
 
 class MarginDialogTest : public testing::TestWithParam<DialogCase>, protected Workbench {
