@@ -2,134 +2,125 @@
 
 #include "base/Failure.h"
 #include "base/Numbers.h"
-#include "channel/ChavesMargem.h"
 #include "channel/EtiquetasDeTeste.h"
-#include "config/Settings.h"
+#include "channel/Languages.h"
 #include "model/FrmPadrao.h"
+#include "model/MargensDialog.h"
 #include "support/Module1.h"
-
-#include <span>
 
 namespace etiquetas {
 
-/// The top margin of a dialog: what the field starts with, what a blank one takes when the dialog
-/// opens, and its key, whose default a blank field takes later.
-struct MargemSuperior {
-    TextView inicio;
-    TextView padrao_ao_abrir;
-    ChaveMargem margem;
+enum class ColumnOrder : std::uint8_t { any, growing_to_the_right };
+
+/// The text of the top margin while its dialog opens.
+struct TopAtOpening {
+    TextView designed; // without a settings file
+    TextView if_blank; // in place of a blank stored value
 };
 
-enum class OrdemDasColunas : std::uint8_t { livre, crescente };
-
 /// What one dialog has of its own.
-struct ModeloDeMargens {
+struct MarginDialogDesign {
     TextView Caption;
     TextView Frame1;
-    std::span<const ChaveMargem> colunas;
-    OrdemDasColunas ordem = OrdemDasColunas::livre;
-    std::optional<MargemSuperior> superior;
-    bool tem_codigo = true;
-    Programa (*teste)(const FrmPadrao&, const MargensLinguagem&);
-    FimDoComando fim = FimDoComando::simples;
+    const LabelStock& stock;
+    ColumnOrder column_order = ColumnOrder::any;
+    std::optional<TopAtOpening> top_at_opening; // where it is not the default of its key
+    bool has_code = true;
+    CommandFileEnd command_file_end = CommandFileEnd::plain;
 };
 
 namespace {
 
-constexpr TextView titulo_oculta_zpl = u"Calibrar Margens - Etiqueta Oculta - ZPL";
+constexpr TextView hidden_zpl_caption = u"Calibrar Margens - Etiqueta Oculta - ZPL";
 
-constexpr ModeloDeMargens modelo_oculta_zpl{
-    .Caption = titulo_oculta_zpl,
+constexpr MarginDialogDesign hidden_3_zpl{
+    .Caption = hidden_zpl_caption,
     .Frame1 = u"Etiqueta 30x10x3",
-    .colunas = colunas_oculta_zpl,
-    .superior = MargemSuperior{u"30", u"30", superior_oculta_zpl},
-    .teste = teste_oculta_zpl,
+    .stock = zpl.hidden_3,
 };
-constexpr ModeloDeMargens modelo_oculta7_zpl{
-    .Caption = titulo_oculta_zpl,
+constexpr MarginDialogDesign hidden_7_zpl{
+    .Caption = hidden_zpl_caption,
     .Frame1 = u"Etiqueta 10x30x7",
-    .colunas = std::span(colunas_oculta8_zpl).first<7>(),
-    .ordem = OrdemDasColunas::crescente,
-    .superior = MargemSuperior{u"70", u"70", superior_oculta7_zpl},
-    .teste = teste_oculta_virada_zpl,
+    .stock = zpl.hidden_7,
+    .column_order = ColumnOrder::growing_to_the_right,
 };
-constexpr ModeloDeMargens modelo_oculta8_zpl{
-    .Caption = titulo_oculta_zpl,
+constexpr MarginDialogDesign hidden_8_zpl{
+    .Caption = hidden_zpl_caption,
     .Frame1 = u"Etiqueta 10x30x8",
-    .colunas = colunas_oculta8_zpl,
-    .ordem = OrdemDasColunas::crescente,
-    .superior = MargemSuperior{u"70", u"70", superior_oculta8_zpl},
-    .teste = teste_oculta_virada_zpl,
+    .stock = zpl.hidden_8,
+    .column_order = ColumnOrder::growing_to_the_right,
 };
-constexpr ModeloDeMargens modelo_oculta_ppla{
+constexpr MarginDialogDesign hidden_3_ppla{
     .Caption = u"Calibrar Margens - Etiqueta Oculta - PPLA",
     .Frame1 = u"Etiqueta 30x10x3",
-    .colunas = colunas_oculta_ppla,
-    .teste = teste_oculta_ppla,
+    .stock = ppla.hidden_3,
 };
-constexpr ModeloDeMargens modelo_frente_zpl{
+constexpr MarginDialogDesign box_front_zpl{
     .Caption = u"Calibrar Margens - Etiqueta Frente de Caixa - ZPL",
     .Frame1 = u"Etiqueta 40x45x2",
-    .colunas = colunas_frente_zpl,
-    .superior = MargemSuperior{u"70", u"3", superior_frente_zpl},
-    .tem_codigo = false,
-    .teste = teste_frente_zpl,
-    .fim = FimDoComando::com_avanco,
+    .stock = zpl.box_front,
+    .top_at_opening = TopAtOpening{.designed = u"70", .if_blank = u"3"},
+    .has_code = false,
+    .command_file_end = CommandFileEnd::extra_line_feed,
 };
 
-void fillBlank(TextField& field, TextView padrao) {
+// Of a dialog that has a top margin.
+TopAtOpening topAtOpening(const MarginDialogDesign& design) {
+    const TextView default_value = design.stock.top->default_value;
+    return design.top_at_opening.value_or(TopAtOpening{default_value, default_value});
+}
+
+void fillBlank(TextField& field, TextView default_value) {
     if (isBlank(field.text)) {
-        field.text = padrao;
+        field.text = default_value;
     }
 }
 
-void fillBlankColumns(MargensLinguagem& dialogo) {
-    for (std::size_t i = 0; i < dialogo.txtmargem1.size(); ++i) {
-        fillBlank(dialogo.txtmargem1[i], dialogo.Label2[i].caption);
+void fillBlankColumns(MargensLinguagem& dialog) {
+    for (std::size_t i = 0; i < dialog.txtmargem1.size(); ++i) {
+        fillBlank(dialog.txtmargem1[i], dialog.Label2[i].caption);
     }
 }
 
-void fillBlankTop(MargensLinguagem& dialogo) {
-    if (dialogo.txtmargemsuperior) {
-        fillBlank(*dialogo.txtmargemsuperior, dialogo.modelo.superior->margem.padrao);
+void fillBlankTop(MargensLinguagem& dialog) {
+    if (dialog.txtmargemsuperior) {
+        fillBlank(*dialog.txtmargemsuperior, dialog.design.stock.top->default_value);
     }
 }
 
-// What the fields hold before the settings file is read.
-void resetFields(MargensLinguagem& dialogo) {
-    for (TextField& margem : dialogo.txtmargem1) {
-        margem.text.clear();
+void loadColumns(const Files& files, MargensLinguagem& dialog) {
+    for (std::size_t i = 0; i < dialog.txtmargem1.size(); ++i) {
+        dialog.txtmargem1[i].text =
+            storedMargin(files, dialog.design.stock.columns[i]).value_or(Text());
     }
-    if (dialogo.txtmargemsuperior) {
-        dialogo.txtmargemsuperior->text = dialogo.modelo.superior->inicio;
+    fillBlankColumns(dialog);
+}
+
+void loadTop(const Files& files, MargensLinguagem& dialog) {
+    if (dialog.txtmargemsuperior) {
+        const TopAtOpening opening = topAtOpening(dialog.design);
+        dialog.txtmargemsuperior->text =
+            storedMargin(files, *dialog.design.stock.top).value_or(Text(opening.designed));
+        fillBlank(*dialog.txtmargemsuperior, opening.if_blank);
     }
 }
 
-void readStored(const Files& files, MargensLinguagem& dialogo) {
-    const Text ini = settingsPath(files);
-    if (!files.fileExists(ini)) {
-        return;
-    }
-    const auto read = [&](const ChaveMargem& margem) {
-        return LeIni(files, ini, ini_section::margens, margem.chave, {});
-    };
-    const ModeloDeMargens& modelo = dialogo.modelo;
-    for (std::size_t i = 0; i < dialogo.txtmargem1.size(); ++i) {
-        dialogo.txtmargem1[i].text = read(modelo.colunas[i]);
-    }
-    if (dialogo.txtmargemsuperior) {
-        dialogo.txtmargemsuperior->text = read(modelo.superior->margem);
+// The code of the item on the Workbench, or a sample where there is none.
+void loadCode(const FrmPadrao& form, MargensLinguagem& dialog) {
+    if (dialog.txtcodigo) {
+        dialog.txtcodigo->text = form.txtcodigo.text;
+        fillBlank(*dialog.txtcodigo, sample_code);
     }
 }
 
-// The columns can only grow to the right: one that stands before the column at its left takes its
-// default. A column that is no number can't be compared, and stays.
-void growToTheRight(MargensLinguagem& dialogo) {
-    std::vector<TextField>& colunas = dialogo.txtmargem1;
-    for (std::size_t i = 1; i < colunas.size(); ++i) {
+// A column that stands before the one at its left takes its default. One that is no number can't be
+// compared, and stays.
+void growToTheRight(MargensLinguagem& dialog) {
+    std::vector<TextField>& columns = dialog.txtmargem1;
+    for (std::size_t i = 1; i < columns.size(); ++i) {
         skip([&] {
-            if (toInteger16(colunas[i].text) < toInteger16(colunas[i - 1].text)) {
-                colunas[i].text = dialogo.Label2[i].caption;
+            if (toInteger16(columns[i].text) < toInteger16(columns[i - 1].text)) {
+                columns[i].text = dialog.Label2[i].caption;
             }
         });
     }
@@ -137,101 +128,91 @@ void growToTheRight(MargensLinguagem& dialogo) {
 
 } // namespace
 
-MargensLinguagem::MargensLinguagem(const ModeloDeMargens& seu_modelo)
-    : modelo(seu_modelo), Caption(modelo.Caption), Frame1{Text(modelo.Frame1)} {
-    for (const ChaveMargem& coluna : modelo.colunas) {
+MargensLinguagem::MargensLinguagem(const MarginDialogDesign& own_design)
+    : design(own_design), Caption(design.Caption), Frame1{Text(design.Frame1)} {
+    for (const MarginKey& column : design.stock.columns) {
         txtmargem1.push_back({u"Text1"});
-        Label2.push_back({Text(coluna.padrao)});
+        Label2.push_back({Text(column.default_value)});
     }
-    if (modelo.superior) {
-        txtmargemsuperior = TextField{Text(modelo.superior->inicio)};
+    if (design.stock.top) {
+        txtmargemsuperior = TextField{Text(topAtOpening(design).designed)};
     }
-    if (modelo.tem_codigo) {
+    if (design.has_code) {
         txtcodigo = TextField{.text = u"Text1", .visible = false};
     }
 }
 
 MargensLinguagem FrmMargensOcultaZPL() {
-    return MargensLinguagem(modelo_oculta_zpl);
+    return MargensLinguagem(hidden_3_zpl);
 }
 
 MargensLinguagem FrmMargensOculta7ZPL() {
-    return MargensLinguagem(modelo_oculta7_zpl);
+    return MargensLinguagem(hidden_7_zpl);
 }
 
 MargensLinguagem FrmMargensOculta8ZPL() {
-    return MargensLinguagem(modelo_oculta8_zpl);
+    return MargensLinguagem(hidden_8_zpl);
 }
 
 MargensLinguagem FrmMargensOcultaPPLa() {
-    return MargensLinguagem(modelo_oculta_ppla);
+    return MargensLinguagem(hidden_3_ppla);
 }
 
 MargensLinguagem FrmMargensCxZPL() {
-    return MargensLinguagem(modelo_frente_zpl);
+    return MargensLinguagem(box_front_zpl);
 }
 
-void MargensLinguagem_load(const FrmPadrao& form, MargensLinguagem& dialogo) {
-    dialogo.open = true;
-    resetFields(dialogo);
-    readStored(form.platform.files, dialogo);
-    fillBlankColumns(dialogo);
-    if (dialogo.txtmargemsuperior) {
-        fillBlank(*dialogo.txtmargemsuperior, dialogo.modelo.superior->padrao_ao_abrir);
-    }
-    if (dialogo.txtcodigo) {
-        dialogo.txtcodigo->text = form.txtcodigo.text;
-        fillBlank(*dialogo.txtcodigo, u"50100779");
-    }
+void MargensLinguagem_load(const FrmPadrao& form, MargensLinguagem& dialog) {
+    dialog.open = true;
+    loadColumns(form.platform.files, dialog);
+    loadTop(form.platform.files, dialog);
+    loadCode(form, dialog);
 }
 
-void MargensLinguagem_cmd_gravar(FrmPadrao& form, MargensLinguagem& dialogo) {
+void MargensLinguagem_cmd_gravar(FrmPadrao& form, MargensLinguagem& dialog) {
     Files& files = form.platform.files;
-    const Text ini = settingsPath(files);
-    const ModeloDeMargens& modelo = dialogo.modelo;
-    const auto store = [&](const ChaveMargem& margem, TextView value) {
-        GravaIni(files, ini_section::margens, margem.chave, value, ini);
-    };
-    for (std::size_t i = 0; i < modelo.colunas.size(); ++i) {
-        const Text& typed = dialogo.txtmargem1[i].text;
-        store(modelo.colunas[i], isBlank(typed) ? dialogo.Label2[i].caption : typed);
+    const LabelStock& stock = dialog.design.stock;
+    for (std::size_t i = 0; i < stock.columns.size(); ++i) {
+        const Text& typed = dialog.txtmargem1[i].text;
+        storeMargin(files, stock.columns[i], isBlank(typed) ? dialog.Label2[i].caption : typed);
     }
-    fillBlankTop(dialogo);
-    if (dialogo.txtmargemsuperior) {
-        store(modelo.superior->margem, dialogo.txtmargemsuperior->text);
+    fillBlankTop(dialog);
+    if (dialog.txtmargemsuperior) {
+        storeMargin(files, *stock.top, dialog.txtmargemsuperior->text);
     }
-    dialogo.open = false;
+    dialog.open = false;
 }
 
-void MargensLinguagem_cmd_teste(FrmPadrao& form, MargensLinguagem& dialogo) {
-    const ModeloDeMargens& modelo = dialogo.modelo;
-    fillBlankTop(dialogo);
-    fillBlankColumns(dialogo);
-    if (modelo.ordem == OrdemDasColunas::crescente) {
-        growToTheRight(dialogo);
+void MargensLinguagem_cmd_teste(FrmPadrao& form, MargensLinguagem& dialog) {
+    const MarginDialogDesign& design = dialog.design;
+    fillBlankTop(dialog);
+    fillBlankColumns(dialog);
+    if (design.column_order == ColumnOrder::growing_to_the_right) {
+        growToTheRight(dialog);
     }
-    sendProgram(form, modelo.teste(form, dialogo), modelo.fim);
+    sendProgram(form, testLabelProgram(form, design.stock.test_label, dialog),
+                design.command_file_end);
 }
 
-void MargensLinguagem_cmd_exit(MargensLinguagem& dialogo) {
-    dialogo.open = false;
+void MargensLinguagem_cmd_exit(MargensLinguagem& dialog) {
+    dialog.open = false;
 }
 
-void txtmargem1_enter(MargensLinguagem& dialogo, std::size_t coluna) {
-    SelecionaTexto(dialogo.txtmargem1.at(coluna));
+void txtmargem1_enter(MargensLinguagem& dialog, std::size_t column) {
+    SelecionaTexto(dialog.txtmargem1.at(column));
 }
 
-KeyCode txtmargem1_key(MargensLinguagem& /*dialogo*/, std::size_t /*coluna*/, KeyCode key) {
+KeyCode txtmargem1_key(MargensLinguagem& /*dialog*/, std::size_t /*column*/, KeyCode key) {
     return SoDecimal(key);
 }
 
-void txtmargemsuperior_enter(MargensLinguagem& dialogo) {
-    if (dialogo.txtmargemsuperior) {
-        SelecionaTexto(*dialogo.txtmargemsuperior);
+void txtmargemsuperior_enter(MargensLinguagem& dialog) {
+    if (dialog.txtmargemsuperior) {
+        SelecionaTexto(*dialog.txtmargemsuperior);
     }
 }
 
-KeyCode txtmargemsuperior_key(MargensLinguagem& /*dialogo*/, KeyCode key) {
+KeyCode txtmargemsuperior_key(MargensLinguagem& /*dialog*/, KeyCode key) {
     return SoDecimal(key);
 }
 

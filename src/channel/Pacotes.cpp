@@ -5,6 +5,7 @@
 #include "channel/Transporte.h"
 #include "channel/Zpl.h"
 #include "model/FrmPadrao.h"
+#include "model/LabelCounts.h"
 #include "platform/Focus.h"
 #include "platform/MessageBoxes.h"
 
@@ -22,40 +23,39 @@ const TextField& quantityField(const FrmPadrao& form) {
 }
 
 Text quantitiesLine(const FrmPadrao& form) {
-    constexpr std::int32_t etiquetas_por_par = 2;
     const std::int16_t pares = toInteger16(quantityField(form).text);
     return zplField(u"540, 40", u"^A0N,25,25^FD",
-                    u"Qte: " + numberText(toInteger16(pares * etiquetas_por_par)) + u" | Imp. " +
-                        numberText(pares));
+                    u"Qte: " + numberText(toInteger16(pares * hidden_labels_per_pair)) +
+                        u" | Imp. " + numberText(pares));
 }
 
-void writeHeader(const FrmPadrao& form, Programa& programa) {
+void writeHeader(const FrmPadrao& form, PrinterProgram& program) {
     const Text pedido = u"Pedido: " + Text(trimmed(form.txtarquivo.text));
     const Text cor = u"Cor: " + Text(trimmed(form.txtcor.text));
-    programa.insert(programa.end(),
-                    {u"^XA", u"^MNY", u"^LT0", u"^LH0,0", u"^FO20, 5^GB800,0,4,^FS",
-                     zplField(u"20, 15", u"^A0N,20,15^FD", u"Fabrica: " + form.txtcliente.text),
-                     zplField(u"20, 40", u"^A0N,25,25^FD", pedido),
-                     zplField(u"300, 40", u"^A0N,25,25^FD", cor)});
-    skip([&] { programa.push_back(quantitiesLine(form)); });
-    programa.insert(programa.end(), {u"^FO20, 65^GB800,0,4,^FS", u"^XZ"});
+    program.insert(program.end(),
+                   {u"^XA", u"^MNY", u"^LT0", u"^LH0,0", u"^FO20, 5^GB800,0,4,^FS",
+                    zplField(u"20, 15", u"^A0N,20,15^FD", u"Fabrica: " + form.txtcliente.text),
+                    zplField(u"20, 40", u"^A0N,25,25^FD", pedido),
+                    zplField(u"300, 40", u"^A0N,25,25^FD", cor)});
+    skip([&] { program.push_back(quantitiesLine(form)); });
+    program.insert(program.end(), {u"^FO20, 65^GB800,0,4,^FS", u"^XZ"});
 }
 
 // A strip holds two labels: an odd number of them takes one more.
 Text copiesLine(const FrmPadrao& form) {
-    constexpr std::int32_t etiquetas_por_tira = 2;
+    constexpr std::int32_t labels_per_strip = 2;
     const std::int16_t wanted = toInteger16(quantityField(form).text);
-    const bool odd = wanted % etiquetas_por_tira != 0;
-    const std::int16_t etiquetas = odd ? toInteger16(std::int32_t{wanted} + 1) : wanted;
-    return u"^PQ" + numberText(etiquetas / etiquetas_por_tira) + u",,1,Y";
+    const bool odd = wanted % labels_per_strip != 0;
+    const std::int16_t labels = odd ? toInteger16(std::int32_t{wanted} + 1) : wanted;
+    return u"^PQ" + numberText(labels / labels_per_strip) + u",,1,Y";
 }
 
-void writeCodes(const FrmPadrao& form, Programa& programa) {
+void writeCodes(const FrmPadrao& form, PrinterProgram& program) {
     const TextView codigo = trimmed(form.txtcodigo.text);
-    programa.insert(programa.end(), {u"^XA", u"^MNY", u"^LT0"});
-    skip([&] { programa.push_back(copiesLine(form)); });
-    programa.insert(programa.end(), {u"^LH0,0", zplField(u"135, 20", u"^A0N,55,45^FD", codigo),
-                                     zplField(u"535, 20", u"^A0N,55,45^FD", codigo), u"^XZ"});
+    program.insert(program.end(), {u"^XA", u"^MNY", u"^LT0"});
+    skip([&] { program.push_back(copiesLine(form)); });
+    program.insert(program.end(), {u"^LH0,0", zplField(u"135, 20", u"^A0N,55,45^FD", codigo),
+                                   zplField(u"535, 20", u"^A0N,55,45^FD", codigo), u"^XZ"});
 }
 
 // Where the lines of a pack's label begin; the week stands at the second place.
@@ -90,30 +90,30 @@ std::array<PackLine, 8> packLines(const FrmPadrao& form, const StripSide& side) 
     }};
 }
 
-void writePack(const FrmPadrao& form, const StripSide& side, Programa& programa) {
+void writePack(const FrmPadrao& form, const StripSide& side, PrinterProgram& program) {
     for (const PackLine& line : packLines(form, side)) {
         const Text place = Text(line.x).append(u", ").append(line.y);
-        programa.push_back(withQuotes(zplField(place, line.command, line.data)));
+        program.push_back(withQuotes(zplField(place, line.command, line.data)));
     }
 }
 
-Programa packProgram(const FrmPadrao& form, std::int16_t pacotes) {
-    Programa programa;
+PrinterProgram packProgram(const FrmPadrao& form, std::int16_t pacotes) {
+    PrinterProgram program;
     bool strip_is_open = false;
     for (std::int32_t pacote = 1; pacote <= pacotes; ++pacote) {
         if (!strip_is_open) {
-            programa.insert(programa.end(), {u"^XA", u"^MNY", u"^LT0", u"^LH0,0"});
+            program.insert(program.end(), {u"^XA", u"^MNY", u"^LT0", u"^LH0,0"});
         }
-        writePack(form, strip_is_open ? right_side : left_side, programa);
+        writePack(form, strip_is_open ? right_side : left_side, program);
         if (strip_is_open) {
-            programa.emplace_back(u"^XZ");
+            program.emplace_back(u"^XZ");
         }
         strip_is_open = !strip_is_open;
     }
     if (strip_is_open) {
-        programa.emplace_back(u"^XZ");
+        program.emplace_back(u"^XZ");
     }
-    return programa;
+    return program;
 }
 
 void askForPacks(FrmPadrao& form) {
@@ -124,12 +124,12 @@ void askForPacks(FrmPadrao& form) {
 } // namespace
 
 void Imprime_OcultaNova(FrmPadrao& form, const CheckBox& cabecalho) {
-    Programa programa;
+    PrinterProgram program;
     if (cabecalho.checked) {
-        writeHeader(form, programa);
+        writeHeader(form, program);
     }
-    writeCodes(form, programa);
-    sendProgram(form, programa, FimDoComando::com_avanco);
+    writeCodes(form, program);
+    sendProgram(form, program, CommandFileEnd::extra_line_feed);
 }
 
 void Imprime_Pacote(FrmPadrao& form) {
@@ -139,13 +139,13 @@ void Imprime_Pacote(FrmPadrao& form) {
     }
     std::int16_t pacotes = 0;
     skip([&] { pacotes = toInteger16(quantityField(form).text); });
-    sendProgram(form, packProgram(form, pacotes), FimDoComando::simples);
+    sendProgram(form, packProgram(form, pacotes), CommandFileEnd::plain);
 }
 
 Text RET_CODCERTO(TextView codigo) {
-    constexpr std::size_t digitos_ean = 13;
-    const std::size_t presentes = std::min(trimmed(codigo).size(), digitos_ean);
-    return Text(digitos_ean - presentes, u'0').append(codigo);
+    constexpr std::size_t ean_digits = 13;
+    const std::size_t present = std::min(trimmed(codigo).size(), ean_digits);
+    return Text(ean_digits - present, u'0').append(codigo);
 }
 
 } // namespace etiquetas

@@ -2,6 +2,8 @@
 
 #include "base/CodePage.h"
 #include "base/Failure.h"
+#include "channel/CommandFile.h"
+#include "config/ProgramFiles.h"
 #include "model/FrmPadrao.h"
 #include "platform/CommandStart.h"
 #include "platform/Files.h"
@@ -19,38 +21,39 @@ std::string bytesOf(const std::vector<Text>& lines) {
     return toCodePage1252(text);
 }
 
-// The command file for the port of the Workbench. A printer that is not on the parallel port is
-// reached through its share, which the port is mapped to. The job file is named without a folder:
-// the command file runs in its own.
-std::vector<Text> commandLines(const FrmPadrao& form, FimDoComando end) {
-    const Text& port = form.LBLPORTAPARELELA.caption;
-    std::vector<Text> lines;
-    if (upperCase(form.lblporta.caption) != u"PARALELA") {
-        const TextView share = trimmed(form.lblcompartilhamento.caption);
-        lines.push_back(u"net use " + port + u": /delete");
-        lines.push_back((u"net use " + port + u": \\\\127.0.0.1\\").append(share).append(u" /yes"));
+// The share that the port is mapped to. A printer on the parallel port needs none.
+std::optional<Text> shareOf(const FrmPadrao& form) {
+    if (upperCase(form.lblporta.caption) == u"PARALELA") {
+        return {};
     }
-    lines.push_back(u"type epltemp.prn > " + port);
-    if (end == FimDoComando::com_avanco) {
+    return Text(trimmed(form.lblcompartilhamento.caption));
+}
+
+std::vector<Text> commandLines(const FrmPadrao& form, CommandFileEnd end) {
+    std::vector<Text> lines;
+    for (const PortCommand& command : portCommands(form.LBLPORTAPARELELA.caption, shareOf(form))) {
+        lines.push_back(commandLine(command));
+    }
+    if (end == CommandFileEnd::extra_line_feed) {
         lines.back() += u'\n';
     }
     return lines;
 }
 
 // Where the job can't be written, the one before it goes away, lest it be printed again.
-void writeJob(Files& files, const Text& path, const Programa& programa) {
-    if (!skip([&] { files.replace(path, bytesOf(programa)); })) {
+void writeJob(Files& files, const Text& path, const PrinterProgram& program) {
+    if (!skip([&] { files.replace(path, bytesOf(program)); })) {
         skip([&] { files.deleteFile(path); });
     }
 }
 
 } // namespace
 
-void sendProgram(FrmPadrao& form, const Programa& programa, FimDoComando end) {
+void sendProgram(FrmPadrao& form, const PrinterProgram& program, CommandFileEnd end) {
     Files& files = form.platform.files;
     const Text folder = files.programFolder();
-    const Text command = joined(files, folder, u"IMPRIMIR.BAT");
-    writeJob(files, joined(files, folder, u"epltemp.prn"), programa);
+    const Text command = joined(files, folder, command_file);
+    writeJob(files, joined(files, folder, job_file), program);
     skip([&] {
         if (!files.fileExists(command)) {
             files.replace(command, bytesOf(commandLines(form, end)));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Text.h"
+#include "channel/MarginKeys.h"
 
 namespace etiquetas {
 
@@ -11,5 +12,8 @@ namespace etiquetas {
 
 /// The line with each point turned into a double quote.
 [[nodiscard]] Text withQuotes(TextView line);
+
+/// Top margin of the second box front label. PPLA takes it too.
+inline constexpr MarginKey zpl_box_front2_top{u"Margem_frente_zpl_A2_superior", u"25"};
 
 } // namespace etiquetas

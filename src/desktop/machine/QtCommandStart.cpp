@@ -1,6 +1,7 @@
 #include "desktop/machine/QtCommandStart.h"
 
 #include "base/CodePage.h"
+#include "channel/CommandFile.h"
 #include "desktop/machine/QtText.h"
 
 #include <QDir>
@@ -8,9 +9,9 @@
 #include <QFileInfo>
 #include <QMap>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QSysInfo>
 
+#include <optional>
 #include <utility>
 
 namespace etiquetas {
@@ -23,7 +24,7 @@ bool shellKnowsCommandFiles() {
     return QSysInfo::kernelType() == u"winnt"_s;
 }
 
-// In a console window of its own. Behind "call" the path keeps its quotes: cmd.exe takes them off a
+// In a console window of its own. After "call" the path keeps its quotes: cmd.exe takes them off a
 // command that begins with them when it holds parentheses, as in "Program Files (x86)".
 void runInShell(const QString& command_file) {
     QProcess::startDetached(u"cmd.exe"_s,
@@ -42,19 +43,24 @@ void startSilently(const QString& program, const QStringList& arguments) {
     process.startDetached();
 }
 
-QStringList linesOf(const QString& path) {
-    static const QRegularExpression line_end(u"[\r\n]+"_s);
-    QFile file(path);
+std::vector<PortCommand> commandsIn(const QString& command_file) {
+    QFile file(command_file);
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    const Text text = fromCodePage1252(file.readAll().toStdString());
-    return toQString(text).split(line_end, Qt::SkipEmptyParts);
+    return readCommandFile(fromCodePage1252(file.readAll().toStdString()));
 }
 
-// What a line of one form says; no match for a line of another form.
-QRegularExpressionMatch match(const QString& form, const QString& line) {
-    return QRegularExpression(form, QRegularExpression::CaseInsensitiveOption).match(line);
+// Ports are one whatever the case of their names.
+QString nameOf(const Text& port) {
+    return toQString(port).toUpper();
+}
+
+// The number of a parallel port, from 1 to 9; nothing for any other port.
+std::optional<int> parallelNumber(const QString& port) {
+    const bool parallel = port.size() == 4 && port.startsWith(u"LPT"_s);
+    const int number = parallel ? port.back().unicode() - u'0' : 0;
+    return number >= 1 && number <= 9 ? std::optional(number) : std::nullopt;
 }
 
 } // namespace
@@ -67,36 +73,33 @@ void QtCommandStart::start(TextView command_file) {
     if (shellKnowsCommandFiles()) {
         runInShell(path);
     } else {
-        readLines(path);
+        carryOut(path);
     }
 }
 
-void QtCommandStart::readLines(const QString& command_file) const {
+void QtCommandStart::carryOut(const QString& command_file) const {
     const QDir folder = QFileInfo(command_file).absoluteDir();
-    QMap<QString, QString> shares; // by port, in upper case
-    for (const QString& line : linesOf(command_file)) {
-        if (const auto remove = match(uR"(^net use (.+): /delete$)"_s, line); remove.hasMatch()) {
-            shares.remove(remove.captured(1).toUpper());
-        } else if (const auto map =
-                       match(uR"(^net use (.+): \\\\127\.0\.0\.1\\(.*) /yes$)"_s, line);
-                   map.hasMatch()) {
-            shares[map.captured(1).toUpper()] = map.captured(2).trimmed();
-        } else if (const auto type = match(u"^type (.+) > (.+)$"_s, line); type.hasMatch()) {
-            const QString port = type.captured(2).toUpper();
-            send(folder.filePath(type.captured(1)), port, shares.value(port));
+    QMap<QString, QString> shares; // by port
+    for (const PortCommand& command : commandsIn(command_file)) {
+        if (const auto* unmap = std::get_if<UnmapPort>(&command)) {
+            shares.remove(nameOf(unmap->port));
+        } else if (const auto* map = std::get_if<MapPort>(&command)) {
+            shares[nameOf(map->port)] = toQString(map->share).trimmed();
+        } else if (const auto* typed = std::get_if<TypeFile>(&command)) {
+            const QString port = nameOf(typed->port);
+            send(folder.filePath(toQString(typed->file)), port, shares.value(port));
         }
     }
 }
 
 void QtCommandStart::send(const QString& file, const QString& port, const QString& share) const {
     if (!share.isEmpty()) {
-        // The name behind "-d" is one even where it begins with "-".
+        // The name after "-d" is one even where it begins with "-".
         startSilently(print_program_, {u"-d"_s, share, u"-o"_s, u"raw"_s, u"--"_s, file});
-    } else if (const auto parallel = match(u"^LPT([1-9])$"_s, port); parallel.hasMatch()) {
+    } else if (const auto number = parallelNumber(port)) {
         // A device that keeps its writer waiting keeps this copy waiting, not the window. One that
         // is missing must not become a file of that name.
-        const int number = parallel.captured(1).toInt() - 1;
-        const QString device = devices_ + u"/lp"_s + QString::number(number);
+        const QString device = devices_ + u"/lp"_s + QString::number(*number - 1);
         startSilently(u"dd"_s, {u"if="_s + file, u"of="_s + device, u"conv=nocreat"_s});
     }
 }

@@ -20,7 +20,8 @@ class QtCommandStart final : public CommandStart {
     void start(TextView command_file) override;
 
   private:
-    void readLines(const QString& command_file) const;
+    /// Does what the lines of a command file say.
+    void carryOut(const QString& command_file) const;
     /// Sends a file to a port; an empty share stands for none.
     void send(const QString& file, const QString& port, const QString& share) const;
 
