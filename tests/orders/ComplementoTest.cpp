@@ -29,7 +29,7 @@ TEST_F(ComplementoTest, PhotographOfTheProduct) {
 
 struct CodesOfSize {
     std::string name;
-    Text size, lblbarra, lblmaster;
+    Text size, barcode, master;
 };
 
 /// Lines of other items, then those of the item on the Workbench.
@@ -55,31 +55,23 @@ class CodesOfSizeTest : public testing::TestWithParam<CodesOfSize>, protected Lo
 
 TEST_P(CodesOfSizeTest, AreThoseOfTheFirstLine) {
     ret_codcomplemento(form, GetParam().size);
-    EXPECT_EQ(form.lblbarra.caption, GetParam().lblbarra);
-    EXPECT_EQ(form.lblmaster.caption, GetParam().lblmaster);
+    EXPECT_EQ(form.lblbarra.caption, GetParam().barcode);
+    EXPECT_EQ(form.lblmaster.caption, GetParam().master);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Sizes, CodesOfSizeTest,
-    testing::Values(CodesOfSize{.name = "TwelveDigitsGetACheckDigit",
-                                .size = u"34",
-                                .lblbarra = u"2044556677888",
-                                .lblmaster = u"3104527001"},
-                    CodesOfSize{.name = "ThirteenDigitsStay",
-                                .size = u"35 ",
-                                .lblbarra = u"2044556677880",
-                                .lblmaster = u"3104527001"},
-                    CodesOfSize{.name = "ElevenDigitsOfAHalfSizeStay",
-                                .size = u"0,5",
-                                .lblbarra = u"20445566778",
-                                .lblmaster = u"3104527001"},
-                    CodesOfSize{.name = "SizeIsComparedAsItStands", .size = u"35"},
-                    CodesOfSize{.name = "MasterCodeIsCutAsItStands", .size = u"40"},
-                    CodesOfSize{.name = "SizeZeroReadsAccessoryLines",
-                                .size = u"00",
-                                .lblbarra = u"2000000000084",
-                                .lblmaster = u"31045279"}),
-    CaseName());
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Sizes, CodesOfSizeTest, testing::Values(
+    CodesOfSize{.name = "TwelveDigitsGetACheckDigit", .size = u"34",
+                .barcode = u"2044556677888", .master = u"3104527001"},
+    CodesOfSize{.name = "ThirteenDigitsStay", .size = u"35 ",
+                .barcode = u"2044556677880", .master = u"3104527001"},
+    CodesOfSize{.name = "ElevenDigitsOfAHalfSizeStay", .size = u"0,5",
+                .barcode = u"20445566778", .master = u"3104527001"},
+    CodesOfSize{.name = "SizeIsComparedAsItStands", .size = u"35"},
+    CodesOfSize{.name = "MasterCodeIsCutAsItStands", .size = u"40"},
+    CodesOfSize{.name = "SizeZeroReadsAccessoryLines", .size = u"00",
+                .barcode = u"2000000000084", .master = u"31045279"}), CaseName());
+// clang-format on
 
 TEST_F(ComplementoTest, SizeThatIsNoNumberFailsAndLeavesNoCodes) {
     form.lblbarra.caption = form.lblmaster.caption = u"old";

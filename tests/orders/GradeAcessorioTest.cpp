@@ -17,7 +17,7 @@ static Slot hiddenSlot(TextView size, TextView quantity) {
 struct AccessoryLineReading {
     std::string name;
     NumberedLine line;
-    Text master, txtpreco, txtsemana, txtpromocao, lblbarra;
+    Text master, price, week, promotion, barcode;
     std::vector<Slot> slots;
     bool locked = false;
 };
@@ -49,49 +49,33 @@ TEST_P(GradeAcessorioFields, AreThoseOfTheFirstLine) {
     expectItem(form, {.txtcodigo = reading.master.substr(0, 7),
                       .txtcor = u" 1",
                       .txtdescricao = u" 3",
-                      .txtpreco = reading.txtpreco,
-                      .txtsemana = reading.txtsemana,
+                      .txtpreco = reading.price,
+                      .txtsemana = reading.week,
                       .txtbandeira = u" 5",
-                      .txtpromocao = reading.txtpromocao});
-    EXPECT_EQ(form.lblbarra.caption, reading.lblbarra);
+                      .txtpromocao = reading.promotion});
+    EXPECT_EQ(form.lblbarra.caption, reading.barcode);
     expectTotals(form, u" 0", u"");
     EXPECT_EQ(slotsOf(form), reading.slots);
     EXPECT_EQ(form.TXTPARES.locked, reading.locked);
 }
 
-INSTANTIATE_TEST_SUITE_P(Widths, GradeAcessorioFields,
-                         testing::Values(AccessoryLineReading{.name = "Width8",
-                                                              .line = {.width = 8},
-                                                              .master = u"3104527001",
-                                                              .txtsemana = u" 4",
-                                                              .txtpromocao = u"old promotion",
-                                                              .lblbarra = u" 1"},
-                                         AccessoryLineReading{.name = "Width11",
-                                                              .line = {.width = 11},
-                                                              .master = u"3104527",
-                                                              .txtpreco = u" 8",
-                                                              .txtsemana = u"4/9",
-                                                              .txtpromocao = u" 10",
-                                                              .lblbarra = u" 6",
-                                                              .slots = {hiddenSlot(u" 2", u" 0"),
-                                                                        hiddenSlot(u" 2", u"99")},
-                                                              .locked = true},
-                                         AccessoryLineReading{
-                                             .name = "Width12WithoutSuffix",
-                                             .line = {.width = 12, .others = {{9, u" "}}},
-                                             .master = u"3104527001",
-                                             .txtpreco = u" 8",
-                                             .txtsemana = u" 4",
-                                             .txtpromocao = u" 10",
-                                             .lblbarra = u" 6"},
-                                         AccessoryLineReading{.name = "Width13",
-                                                              .line = {.width = 13},
-                                                              .master = u" 3104527001",
-                                                              .txtpreco = u" 8",
-                                                              .txtsemana = u"4/9",
-                                                              .txtpromocao = u" 10",
-                                                              .lblbarra = u" 6"}),
-                         CaseName());
+using AccessoryReading = AccessoryLineReading;
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Widths, GradeAcessorioFields, testing::Values(
+    AccessoryReading{.name = "Width8", .line = {.width = 8}, .master = u"3104527001",
+                     .week = u" 4", .promotion = u"old promotion", .barcode = u" 1"},
+    AccessoryReading{.name = "Width11", .line = {.width = 11}, .master = u"3104527",
+                     .price = u" 8", .week = u"4/9", .promotion = u" 10", .barcode = u" 6",
+                     .slots = {hiddenSlot(u" 2", u" 0"), hiddenSlot(u" 2", u"99")},
+                     .locked = true},
+    AccessoryReading{.name = "Width12WithoutSuffix",
+                     .line = {.width = 12, .others = {{9, u" "}}}, .master = u"3104527001",
+                     .price = u" 8", .week = u" 4", .promotion = u" 10", .barcode = u" 6"},
+    AccessoryReading{.name = "Width13", .line = {.width = 13}, .master = u" 3104527001",
+                     .price = u" 8", .week = u"4/9", .promotion = u" 10", .barcode = u" 6"}),
+    CaseName());
+// clang-format on
 
 TEST_F(GradeAcessorioTest, MasterCodeBeyondTheKeyIsNotFoundInWidth11) {
     form.txtpreco.text = u"old price";

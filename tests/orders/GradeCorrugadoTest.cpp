@@ -17,122 +17,93 @@ struct Packs : LoadedWorkbench {
 
 class GradeCorrugadoTest : public testing::Test, protected Packs {};
 
-/// The fields that depend on the width of a line, and whether the EAN is shown.
+/// The fields whose place depends on the width of a line.
 struct PackLineReading {
     std::string name;
     NumberedLine line;
     Text key = u"6 | 5|4";
-    PackFields fields;
-    bool ean_shown = true;
+    Text prepack, grade1, grade2, total, week, destination, volume, ean;
 };
 
 class GradeCorrugadoFields : public testing::TestWithParam<PackLineReading>, protected Packs {};
 
 TEST_P(GradeCorrugadoFields, AreThoseOfTheFirstLine) {
-    NumberedLine later = GetParam().line;
+    const PackLineReading& reading = GetParam();
+    NumberedLine later = reading.line;
     later.others[0] = u"second";
-    form.txtean.visible = form.lblean.visible = !GetParam().ean_shown;
-    load({lineOf(GetParam().line), lineOf(later)}, GetParam().key);
-    expectPack(form, GetParam().fields);
-    EXPECT_EQ(form.txtean.visible, GetParam().ean_shown);
-    EXPECT_EQ(form.lblean.visible, GetParam().ean_shown);
+    const bool has_ean = !reading.ean.empty();
+    form.txtean.visible = form.lblean.visible = !has_ean;
+    load({lineOf(reading.line), lineOf(later)}, reading.key);
+    expectPack(form, {.txtqte1 = u" 0",
+                      .txtcodigo1 = u" 2",
+                      .txtfornecedor1 = u" 3",
+                      .txtcor1 = u" 4",
+                      .txtdescricao1 = u" 5",
+                      .txtprepack = reading.prepack,
+                      .txtgrade1 = reading.grade1,
+                      .txtgrade2 = reading.grade2,
+                      .txttotgrade = reading.total,
+                      .txtsemana1 = reading.week,
+                      .txtdestino1 = reading.destination,
+                      .txtvolume = reading.volume,
+                      .txtean = reading.ean});
+    EXPECT_EQ(form.txtean.visible, has_ean);
+    EXPECT_EQ(form.lblean.visible, has_ean);
 }
 
-// The fields of a line whose numbers start at the pre-pack code.
-static PackFields packOf(PackFields fields) {
-    fields.txtqte1 = u" 0";
-    fields.txtcodigo1 = u" 2";
-    fields.txtfornecedor1 = u" 3";
-    fields.txtcor1 = u" 4";
-    fields.txtdescricao1 = u" 5";
-    return fields;
-}
+using PackReading = PackLineReading;
 
-// Widths 15 and 16 differ in the field that tells whether the week has a suffix.
-static PackFields packWithWeek(TextView week, TextView destination = u" 11") {
-    return packOf({.txtprepack = u" 6",
-                   .txtgrade1 = u" 7",
-                   .txtgrade2 = u" 8",
-                   .txttotgrade = u" 9",
-                   .txtsemana1 = Text(week),
-                   .txtdestino1 = Text(destination),
-                   .txtvolume = u" 12",
-                   .txtean = u" 6"});
-}
-
-static PackFields packOfWidth17(TextView week) {
-    return packOf({.txtprepack = u" 6",
-                   .txtgrade1 = u" 8",
-                   .txtgrade2 = u" 9",
-                   .txttotgrade = u" 10",
-                   .txtsemana1 = Text(week),
-                   .txtdestino1 = u" 12",
-                   .txtvolume = u" 13",
-                   .txtean = u" 6"});
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Widths, GradeCorrugadoFields,
-    testing::Values(PackLineReading{.name = "Width13",
-                                    .line = {.width = 13},
-                                    .fields = packOf({.txtprepack = u" 6",
-                                                      .txtgrade1 = u" 7",
-                                                      .txtgrade2 = u" 8",
-                                                      .txttotgrade = u" 9",
-                                                      .txtsemana1 = u" 10",
-                                                      .txtdestino1 = u" 11",
-                                                      .txtvolume = u" 12"}),
-                                    .ean_shown = false},
-                    PackLineReading{.name = "Width14",
-                                    .line = {.width = 14},
-                                    .key = u"7 | 5|4",
-                                    .fields = packOf({.txtprepack = u" 7",
-                                                      .txtgrade1 = u" 8",
-                                                      .txtgrade2 = u" 9",
-                                                      .txttotgrade = u" 9",
-                                                      .txtsemana1 = u" 11",
-                                                      .txtdestino1 = u" 12",
-                                                      .txtvolume = u" 13",
-                                                      .txtean = u" 6"})},
-                    PackLineReading{.name = "Width15",
-                                    .line = {.width = 15},
-                                    .key = u"7 | 5|4",
-                                    .fields = packWithWeek(u" 10/ 13")},
-                    PackLineReading{.name = "Width15WithoutSuffix",
-                                    .line = {.width = 15, .others = {{11, u" "}}},
-                                    .key = u"7|5|4",
-                                    .fields = packWithWeek(u" 10", u" ")},
-                    PackLineReading{.name = "Width15WithEmptySuffix",
-                                    .line = {.width = 15, .others = {{13, u""}}},
-                                    .key = u"7|5|4",
-                                    .fields = packWithWeek(u" 10/")},
-                    PackLineReading{.name = "Width16",
-                                    .line = {.width = 16},
-                                    .fields = packWithWeek(u" 10/ 13")},
-                    PackLineReading{.name = "Width16WithoutSuffix",
-                                    .line = {.width = 16, .others = {{13, u" "}}},
-                                    .fields = packWithWeek(u" 10")},
-                    PackLineReading{.name = "Width17",
-                                    .line = {.width = 17},
-                                    .fields = packOfWidth17(u" 11/ 14")},
-                    PackLineReading{.name = "Width17WithoutSuffix",
-                                    .line = {.width = 17, .others = {{14, u" "}}},
-                                    .fields = packOfWidth17(u" 11")}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Widths, GradeCorrugadoFields, testing::Values(
+    PackReading{.name = "Width13", .line = {.width = 13},
+                .prepack = u" 6", .grade1 = u" 7", .grade2 = u" 8", .total = u" 9",
+                .week = u" 10", .destination = u" 11", .volume = u" 12"},
+    PackReading{.name = "Width14", .line = {.width = 14}, .key = u"7 | 5|4",
+                .prepack = u" 7", .grade1 = u" 8", .grade2 = u" 9", .total = u" 9",
+                .week = u" 11", .destination = u" 12", .volume = u" 13", .ean = u" 6"},
+    PackReading{.name = "Width15", .line = {.width = 15}, .key = u"7 | 5|4",
+                .prepack = u" 6", .grade1 = u" 7", .grade2 = u" 8", .total = u" 9",
+                .week = u" 10/ 13", .destination = u" 11", .volume = u" 12", .ean = u" 6"},
+    PackReading{.name = "Width15WithoutSuffix",
+                .line = {.width = 15, .others = {{11, u" "}}}, .key = u"7|5|4",
+                .prepack = u" 6", .grade1 = u" 7", .grade2 = u" 8", .total = u" 9",
+                .week = u" 10", .destination = u" ", .volume = u" 12", .ean = u" 6"},
+    PackReading{.name = "Width15WithEmptySuffix",
+                .line = {.width = 15, .others = {{13, u""}}}, .key = u"7|5|4",
+                .prepack = u" 6", .grade1 = u" 7", .grade2 = u" 8", .total = u" 9",
+                .week = u" 10/", .destination = u" 11", .volume = u" 12", .ean = u" 6"},
+    PackReading{.name = "Width16", .line = {.width = 16},
+                .prepack = u" 6", .grade1 = u" 7", .grade2 = u" 8", .total = u" 9",
+                .week = u" 10/ 13", .destination = u" 11", .volume = u" 12", .ean = u" 6"},
+    PackReading{.name = "Width16WithoutSuffix", .line = {.width = 16, .others = {{13, u" "}}},
+                .prepack = u" 6", .grade1 = u" 7", .grade2 = u" 8", .total = u" 9",
+                .week = u" 10", .destination = u" 11", .volume = u" 12", .ean = u" 6"},
+    PackReading{.name = "Width17", .line = {.width = 17},
+                .prepack = u" 6", .grade1 = u" 8", .grade2 = u" 9", .total = u" 10",
+                .week = u" 11/ 14", .destination = u" 12", .volume = u" 13", .ean = u" 6"},
+    PackReading{.name = "Width17WithoutSuffix", .line = {.width = 17, .others = {{14, u" "}}},
+                .prepack = u" 6", .grade1 = u" 8", .grade2 = u" 9", .total = u" 10",
+                .week = u" 11", .destination = u" 12", .volume = u" 13", .ean = u" 6"}),
     CaseName());
+// clang-format on
 
-INSTANTIATE_TEST_SUITE_P(
-    NotFound, GradeCorrugadoFields,
-    testing::Values(
-        PackLineReading{.name = "Width12", .line = {.width = 12}, .ean_shown = false},
-        PackLineReading{.name = "Width18", .line = {.width = 18}, .ean_shown = false},
-        PackLineReading{.name = "CodeOfWidth14", .line = {.width = 14}, .ean_shown = false},
-        PackLineReading{
-            .name = "Description", .line = {.width = 16}, .key = u"6|4|4", .ean_shown = false},
-        PackLineReading{
-            .name = "Colour", .line = {.width = 17}, .key = u"6|5|5", .ean_shown = false},
-        PackLineReading{
-            .name = "BlankKey", .line = {.width = 16}, .key = u" ", .ean_shown = false}),
-    CaseName());
+TEST_F(GradeCorrugadoTest, WhatIsNotFoundLeavesNothing) {
+    struct Search {
+        std::size_t width;
+        TextView key;
+    };
+    for (const Search& search :
+         {Search{.width = 12, .key = u"6|5|4"}, Search{.width = 18, .key = u"6|5|4"},
+          Search{.width = 14, .key = u"6|5|4"}, Search{.width = 16, .key = u"6|4|4"},
+          Search{.width = 17, .key = u"6|5|5"}, Search{.width = 16, .key = u" "}}) {
+        SCOPED_TRACE(std::to_string(search.width) + " fields, " + utf8(search.key));
+        load({lineOf(NumberedLine{.width = 16})});
+        load({lineOf(NumberedLine{.width = search.width})}, search.key);
+        expectPack(form, {});
+        EXPECT_FALSE(form.txtean.visible);
+        EXPECT_FALSE(form.lblean.visible);
+    }
+}
 
 TEST_F(GradeCorrugadoTest, AfterALineOfWidth13ThatWasPassedOverNoneIsFound) {
     struct Widths {
@@ -169,26 +140,17 @@ TEST_P(CartonNumbersTest, StandInBothLists) {
     EXPECT_EQ(form.lblmax.caption, GetParam().last);
 }
 
-INSTANTIATE_TEST_SUITE_P(Volumes, CartonNumbersTest,
-                         testing::Values(CartonRange{.name = "Three",
-                                                     .volume = u"5/7",
-                                                     .numbers = {u"5", u"6", u"7"},
-                                                     .first = u"5",
-                                                     .last = u"7"},
-                                         CartonRange{.name = "ZerosAndBlanks",
-                                                     .volume = u" 09/10 ",
-                                                     .numbers = {u"9", u"10"},
-                                                     .first = u"9",
-                                                     .last = u"10"},
-                                         CartonRange{.name = "One",
-                                                     .volume = u"1/1",
-                                                     .numbers = {u"1"},
-                                                     .first = u"1",
-                                                     .last = u"1"},
-                                         CartonRange{.name = "Reversed", .volume = u"7/5"},
-                                         CartonRange{.name = "WithoutSlash", .volume = u"7"},
-                                         CartonRange{.name = "Empty", .volume = u""}),
-                         CaseName());
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Volumes, CartonNumbersTest, testing::Values(
+    CartonRange{.name = "Three", .volume = u"5/7", .numbers = {u"5", u"6", u"7"},
+                .first = u"5", .last = u"7"},
+    CartonRange{.name = "ZerosAndBlanks", .volume = u" 09/10 ", .numbers = {u"9", u"10"},
+                .first = u"9", .last = u"10"},
+    CartonRange{.name = "One", .volume = u"1/1", .numbers = {u"1"}, .first = u"1", .last = u"1"},
+    CartonRange{.name = "Reversed", .volume = u"7/5"},
+    CartonRange{.name = "WithoutSlash", .volume = u"7"},
+    CartonRange{.name = "Empty", .volume = u""}), CaseName());
+// clang-format on
 
 TEST_F(GradeCorrugadoTest, VolumesThatAreNoNumbersFail) {
     const auto loadVolume = [&](TextView volume) {

@@ -18,10 +18,11 @@ struct BoxItems : LoadedWorkbench {
 
 class GradeFcTest : public testing::Test, protected BoxItems {};
 
+/// The fields whose place depends on the width of a line.
 struct BoxLineReading {
     std::string name;
     NumberedLine line;
-    Text txtpreco, txtsemana, txtbandeira, txtpromocao;
+    Text price, week, banner, promotion;
 };
 
 class GradeFcFields : public testing::TestWithParam<BoxLineReading>, protected BoxItems {};
@@ -34,54 +35,33 @@ TEST_P(GradeFcFields, AreThoseOfTheFirstLine) {
     expectItem(form, {.txtcodigo = u" 6",
                       .txtcor = u" 1",
                       .txtdescricao = u" 4",
-                      .txtpreco = reading.txtpreco,
-                      .txtsemana = reading.txtsemana,
-                      .txtbandeira = reading.txtbandeira,
-                      .txtpromocao = reading.txtpromocao});
+                      .txtpreco = reading.price,
+                      .txtsemana = reading.week,
+                      .txtbandeira = reading.banner,
+                      .txtpromocao = reading.promotion});
     EXPECT_EQ(slotsOf(form), (std::vector<Slot>{{.size = u" 2", .quantity = u"0"},
                                                 {.size = u"35", .quantity = u"0"}}));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Widths, GradeFcFields,
-    testing::Values(BoxLineReading{.name = "Width10",
-                                   .line = {.width = 10},
-                                   .txtsemana = u" 7/9",
-                                   .txtbandeira = u" 8",
-                                   .txtpromocao = u" 9"},
-                    BoxLineReading{.name = "Width10WithoutSuffix",
-                                   .line = {.width = 10, .others = {{9, u" "}}},
-                                   .txtsemana = u" 7",
-                                   .txtbandeira = u" 8",
-                                   .txtpromocao = u" "},
-                    BoxLineReading{.name = "Width11",
-                                   .line = {.width = 11},
-                                   .txtsemana = u" 7/10",
-                                   .txtbandeira = u" 8",
-                                   .txtpromocao = u" 9"},
-                    BoxLineReading{.name = "Width11WithoutSuffix",
-                                   .line = {.width = 11, .others = {{10, u" "}}},
-                                   .txtsemana = u" 7",
-                                   .txtbandeira = u" 8",
-                                   .txtpromocao = u" 9"},
-                    BoxLineReading{.name = "Width12",
-                                   .line = {.width = 12},
-                                   .txtsemana = u" 7/10",
-                                   .txtbandeira = u" 8",
-                                   .txtpromocao = u" 9"},
-                    BoxLineReading{.name = "Width13",
-                                   .line = {.width = 13},
-                                   .txtpreco = u" 7",
-                                   .txtsemana = u" 8/10",
-                                   .txtbandeira = u" 9",
-                                   .txtpromocao = u" 11"},
-                    BoxLineReading{.name = "Width13WithoutSuffix",
-                                   .line = {.width = 13, .others = {{10, u""}}},
-                                   .txtpreco = u" 7",
-                                   .txtsemana = u" 8",
-                                   .txtbandeira = u" 9",
-                                   .txtpromocao = u" 11"}),
-    CaseName());
+using BoxReading = BoxLineReading;
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Widths, GradeFcFields, testing::Values(
+    BoxReading{.name = "Width10", .line = {.width = 10},
+               .week = u" 7/9", .banner = u" 8", .promotion = u" 9"},
+    BoxReading{.name = "Width10WithoutSuffix", .line = {.width = 10, .others = {{9, u" "}}},
+               .week = u" 7", .banner = u" 8", .promotion = u" "},
+    BoxReading{.name = "Width11", .line = {.width = 11},
+               .week = u" 7/10", .banner = u" 8", .promotion = u" 9"},
+    BoxReading{.name = "Width11WithoutSuffix", .line = {.width = 11, .others = {{10, u" "}}},
+               .week = u" 7", .banner = u" 8", .promotion = u" 9"},
+    BoxReading{.name = "Width12", .line = {.width = 12},
+               .week = u" 7/10", .banner = u" 8", .promotion = u" 9"},
+    BoxReading{.name = "Width13", .line = {.width = 13},
+               .price = u" 7", .week = u" 8/10", .banner = u" 9", .promotion = u" 11"},
+    BoxReading{.name = "Width13WithoutSuffix", .line = {.width = 13, .others = {{10, u""}}},
+               .price = u" 7", .week = u" 8", .banner = u" 9", .promotion = u" 11"}), CaseName());
+// clang-format on
 
 TEST_F(GradeFcTest, EachLineFillsASlotAndItsPairsAreTotalled) {
     load({lineOf(BoxLine{}), lineOf(BoxLine{.size = u"35"})});
