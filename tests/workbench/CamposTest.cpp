@@ -20,32 +20,20 @@ class CamposTest : public testing::Test, protected LoadedWorkbench {
 
 TEST_F(CamposTest, FieldWithTheFocusIsYellowAndSelected) {
     struct FieldEvents {
-        std::string name;
         TextField& field;
         Event enter, leave;
     };
     const Event enter_slot = [](FrmPadrao& f) { txtnumero_enter(f, 13); };
     const Event leave_slot = [](FrmPadrao& f) { txtnumero_leave(f, 13); };
-    for (const auto& [name, field, enter, leave] :
-         {FieldEvents{.name = "txtarquivo",
-         .field = form.txtarquivo,
-         .enter = txtarquivo_enter,
-         .leave = txtarquivo_leave},
-          FieldEvents{.name = "txtcliente",
-          .field = form.txtcliente,
-          .enter = txtcliente_enter,
-          .leave = txtcliente_leave},
-          FieldEvents{
-              .name = "txtcor", .field = form.txtcor, .enter = txtcor_enter, .leave = txtcor_leave},
-          FieldEvents{.name = "TXTOCULTAS",
-          .field = form.TXTOCULTAS,
-          .enter = TXTOCULTAS_enter,
-          .leave = TXTOCULTAS_leave},
-          FieldEvents{.name = "txtnumero(13)",
-          .field = form.txtnumero[13],
-          .enter = enter_slot,
-          .leave = leave_slot}}) {
-        SCOPED_TRACE(name);
+    // clang-format off
+    for (const auto& [field, enter, leave] : {
+        FieldEvents{.field = form.txtarquivo, .enter = txtarquivo_enter, .leave = txtarquivo_leave},
+        FieldEvents{.field = form.txtcliente, .enter = txtcliente_enter, .leave = txtcliente_leave},
+        FieldEvents{.field = form.txtcor, .enter = txtcor_enter, .leave = txtcor_leave},
+        FieldEvents{.field = form.TXTOCULTAS, .enter = TXTOCULTAS_enter, .leave = TXTOCULTAS_leave},
+        FieldEvents{.field = form.txtnumero[13], .enter = enter_slot, .leave = leave_slot}}) {
+        // clang-format on
+        SCOPED_TRACE(utf8(field.caption));
         field.text = u"12 ";
         enter(form);
         EXPECT_EQ(field.back_colour, (Colour{.red = 255, .green = 255, .blue = 192}));
@@ -137,26 +125,17 @@ TEST_F(CamposTest, CaptionOfThePanelTellsHowAnItemIsRead) {
     struct Item {
         TextView caption, colour, txtcor, TXTPARES, txtqte1;
     };
-    for (const Item& item : {Item{.caption = u"Caixa / Oculta",
-                            .colour = u"RUBRO",
-                            .txtcor = u"RUBRO",
-                            .TXTPARES = u"12",
-                            .txtqte1 = u"old"},
-                             Item{.caption = tipo::acessorio,
-                             .colour = u"AZUL",
-                             .txtcor = u"AZUL",
-                             .TXTPARES = u"9",
-                             .txtqte1 = u"old"},
-                             Item{.caption = tipo::corrugado,
-                             .colour = u"RUBRO",
-                             .txtcor = u"old",
-                             .TXTPARES = u"old",
-                             .txtqte1 = u""},
-                             Item{.caption = u"",
-                             .colour = u"RUBRO",
-                             .txtcor = u"RUBRO",
-                             .TXTPARES = u"12",
-                             .txtqte1 = u"old"}}) {
+    // clang-format off
+    for (const Item& item : {
+        Item{.caption = u"Caixa / Oculta", .colour = u"RUBRO",
+             .txtcor = u"RUBRO", .TXTPARES = u"12", .txtqte1 = u"old"},
+        Item{.caption = tipo::acessorio, .colour = u"AZUL",
+             .txtcor = u"AZUL", .TXTPARES = u"9", .txtqte1 = u"old"},
+        Item{.caption = tipo::corrugado, .colour = u"RUBRO",
+             .txtcor = u"old", .TXTPARES = u"old", .txtqte1 = u""},
+        Item{.caption = u"", .colour = u"RUBRO",
+             .txtcor = u"RUBRO", .TXTPARES = u"12", .txtqte1 = u"old"}}) {
+        // clang-format on
         SCOPED_TRACE(utf8(item.caption));
         form.Frame1.caption = item.caption;
         form.txtcor.text = form.TXTPARES.text = form.txtqte1.text = u"old";

@@ -38,6 +38,7 @@ TEST_F(DialogosTest, OpenDialogComesToTheFrontAsItStands) {
     MargensDialog& dialog = form.FrmMargensCxZPL45;
     form.cmb_referencia1.text = u"P";
     cmd_calibra_click(form);
+    EXPECT_EQ(dialog.txtmargem2.text, u"40"); // loaded
     dialog.txtmargem1.text = u"typed";
     cmd_calibra_click(form);
     EXPECT_TRUE(dialog.to_front);
