@@ -330,7 +330,7 @@ TEST_F(MargensTest, FirstBlankMarginIsToldAndGetsTheFocus) {
           Blank{.dialog = pack, .txtmargem1 = u"1", .focused = pack.txtmargemsuperior}}) {
         test(blank.dialog,
              {.txtmargem1 = Text(blank.txtmargem1), .txtmargem2 = u"", .txtmargemsuperior = u" "});
-        EXPECT_EQ(machine.log, Log{told("Informe a Margem...")});
+        EXPECT_EQ(machine.log, Log{messageBox("Informe a Margem...")});
         EXPECT_EQ(machine.focused, &blank.focused) << utf8(blank.dialog.Frame1.caption);
     }
 }
@@ -345,7 +345,7 @@ TEST_F(MargensTest, BlankItemIsToldAndTestedAllTheSame) {
     form.cmbtipo.choose(0);
     form.txtdescricao.text = u" "; // no size has it
     test(caixa, ones);
-    EXPECT_EQ(steps(), (Log{told("Selecione o Item que deseja Imprimir"), "printer Etiquetas",
+    EXPECT_EQ(steps(), (Log{messageBox("Selecione o Item que deseja Imprimir"), "printer Etiquetas",
                             "paper 256", "width 9000", "height 2660", "end", "printer Papel"}));
     EXPECT_EQ(form.txtpreco.text, u"");
 }
@@ -354,11 +354,11 @@ TEST_F(MargensTest, BothLogosAreNeeded) {
     form.cmbtipo.choose(0);
     form.LogoLumiraOk = false;
     test(caixa, ones);
-    EXPECT_EQ(machine.log, Log{told("O Arquivo do Logotipo não foi localizado")});
+    EXPECT_EQ(machine.log, Log{messageBox("O Arquivo do Logotipo não foi localizado")});
     form.LogoLumiraOk = true;
     form.LogoBrisakoOk = false;
     test(caixa, ones);
-    EXPECT_EQ(machine.log, Log{told("O Arquivo do Logotipo não foi localizado")});
+    EXPECT_EQ(machine.log, Log{messageBox("O Arquivo do Logotipo não foi localizado")});
 }
 
 } // namespace etiquetas::test

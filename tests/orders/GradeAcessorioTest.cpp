@@ -95,8 +95,9 @@ TEST_F(GradeAcessorioTest, LinesBeyondTheSlotsAreTold) {
     load(lines, u"3104527 | 3 | 1");
     EXPECT_EQ(slotsOf(form), std::vector<Slot>(14, hiddenSlot(u" 2", u" 0")));
     EXPECT_EQ(form.TXTPARES.text, u" 0");
-    EXPECT_EQ(machine.log, Log{warned("Erro ao Preencher Dados.. Contate a Varesko e comunique o "
-                                      "Erro no Pedido 77")});
+    EXPECT_EQ(machine.log,
+              Log{warningBox("Erro ao Preencher Dados.. Contate a Varesko e comunique o "
+                             "Erro no Pedido 77")});
     load(lines, u" ");
     EXPECT_EQ(slotsOf(form), std::vector<Slot>());
     expectTotals(form, u"", u"");

@@ -100,8 +100,9 @@ TEST_F(GradeFcTest, FifteenthSizeIsToldAndLeftOut) {
     lines.push_back(lineOf(BoxLine{.quantity = u"100", .size = u"49"}));
     form.txtarquivo.text = u"77";
     load(lines);
-    EXPECT_EQ(machine.log, Log{warned("Erro ao Preencher Dados.. Contate a Varesko e comunique o "
-                                      "Erro no Pedido 77")});
+    EXPECT_EQ(machine.log,
+              Log{warningBox("Erro ao Preencher Dados.. Contate a Varesko e comunique o "
+                             "Erro no Pedido 77")});
     EXPECT_EQ(slotsOf(form), std::vector<Slot>(14, {.size = u"34", .quantity = u"1"}));
     expectTotals(form, u"14", u"28");
 }

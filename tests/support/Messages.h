@@ -5,12 +5,12 @@
 namespace etiquetas::test {
 
 /// The log's line of a message box without a symbol.
-inline std::string told(const std::string& text) {
+inline std::string messageBox(const std::string& text) {
     return "message none ok [] " + text;
 }
 
 /// The log's line of a message box with the exclamation symbol.
-inline std::string warned(const std::string& text, const std::string& title = "") {
+inline std::string warningBox(const std::string& text, const std::string& title = "") {
     return "message exclamation ok [" + title + "] " + text;
 }
 

@@ -22,14 +22,15 @@ TEST_F(ModAddFonteTest, FacesAreFoundInAnyCaseAndWithBlanks) {
 TEST_F(ModAddFonteTest, MissingFacesAreNamed) {
     printers.faces = {u"Estrangelo Edessa", u"Calibri Light", u"Franklin Gothic Medium"};
     EXPECT_EQ(check().back(),
-              told("Atenção: Instale as seguintes fontes: Calibri,Malgun Gothic Semilight,"));
+              messageBox("Atenção: Instale as seguintes fontes: Calibri,Malgun Gothic Semilight,"));
 }
 
 TEST_F(ModAddFonteTest, SurfaceWithoutFacesLacksThemAll) {
     failing = {"faces"};
-    EXPECT_EQ(check(), (Log{"pointer busy", "pointer normal",
-                            told("Atenção: Instale as seguintes fontes: Estrangelo Edessa,Franklin "
-                                 "Gothic Medium,Calibri,Malgun Gothic Semilight,")}));
+    EXPECT_EQ(check(),
+              (Log{"pointer busy", "pointer normal",
+                   messageBox("Atenção: Instale as seguintes fontes: Estrangelo Edessa,Franklin "
+                              "Gothic Medium,Calibri,Malgun Gothic Semilight,")}));
 }
 
 } // namespace etiquetas::test

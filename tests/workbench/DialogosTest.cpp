@@ -48,7 +48,7 @@ TEST_F(DialogosTest, OpenDialogComesToTheFrontAsItStands) {
 TEST_F(DialogosTest, WithoutAnOrderThereIsNothingToCalibrate) {
     form.cmb_referencia.text = form.cmb_referencia1.text = u" ";
     cmd_calibra_click(form);
-    EXPECT_EQ(machine.log, Log{told("Selecione um Pedido para realizar a Calibragem...")});
+    EXPECT_EQ(machine.log, Log{messageBox("Selecione um Pedido para realizar a Calibragem...")});
     EXPECT_FALSE(form.FrmMargensCxZPL45.open);
 }
 

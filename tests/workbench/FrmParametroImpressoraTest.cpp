@@ -149,7 +149,7 @@ TipoFrenteCaixa=40_45_2
                  .frentecaixa = u"40_45_2",
                  .lblcompartilhamento = u""});
     EXPECT_EQ(machine.logged({"message", "delete"}),
-              (Log{told("O Local Padrão de busca do Arquivo é Inválido..."),
+              (Log{messageBox("O Local Padrão de busca do Arquivo é Inválido..."),
                    "delete /programa/IMPRIMIR.BAT"}));
 }
 
@@ -159,12 +159,12 @@ TEST_F(FrmParametroImpressoraTest, OnlyAFolderIsTakenFromTheBrowser) {
     EXPECT_EQ(machine.log, Log{"pick Selecione o Local Padrão para Busca dos Arquivos"});
     machine.picked = u"";
     CMD_GETPATH_click(form);
-    EXPECT_EQ(machine.log.back(), told("O Local Selecionado é Inválido..."));
+    EXPECT_EQ(machine.log.back(), messageBox("O Local Selecionado é Inválido..."));
     machine.picked = u"/nada";
     CMD_GETPATH_click(form);
     machine.failing = {"pick"};
     CMD_GETPATH_click(form);
-    EXPECT_EQ(machine.logged({"message"}), Log(3, told("O Local Selecionado é Inválido...")));
+    EXPECT_EQ(machine.logged({"message"}), Log(3, messageBox("O Local Selecionado é Inválido...")));
     EXPECT_EQ(dialog.TXTPATH.text, u"/pedidos");
     EXPECT_EQ(dialog.TXTPATH.tooltip, u"/pedidos");
 }

@@ -39,8 +39,8 @@ TEST_F(InicioTest, StepsOfANewInstallation) {
                    "localizado(s)!",
                    "write /programa/Varesko.ini", "delete /programa/IMPRIMIR.BAT", "pointer busy",
                    "faces", "pointer normal",
-                   told("Atenção: Instale as seguintes fontes: Calibri,Malgun Gothic "
-                        "Semilight,")}));
+                   messageBox("Atenção: Instale as seguintes fontes: Calibri,Malgun Gothic "
+                              "Semilight,")}));
 }
 
 TEST_F(InicioTest, SettingsOfANewInstallation) {

@@ -31,8 +31,9 @@ TEST_F(PedidoTest, OrderThatIsNotFoundIsTold) {
     EXPECT_FALSE(form.cmd_printacessorio.visible);
     load(tipo::oculta, u"77");
     EXPECT_FALSE(form.cmd_printacessorio.visible);
-    EXPECT_EQ(machine.log, (Log{told("O Pedido 78 , não foi localizado em /programa"),
-                                told("O arquivo não foi localizado... ")})); // no key is written
+    EXPECT_EQ(machine.log,
+              (Log{messageBox("O Pedido 78 , não foi localizado em /programa"),
+                   messageBox("O arquivo não foi localizado... ")})); // no key is written
 }
 
 TEST_F(PedidoTest, FileThatIsEmptyOrGoneIsTold) {
@@ -41,10 +42,10 @@ TEST_F(PedidoTest, FileThatIsEmptyOrGoneIsTold) {
     loadHidden({});
     EXPECT_TRUE(form.cmd_printacessorio.visible);
     EXPECT_FALSE(form.LBLBRISAKO.visible);
-    EXPECT_EQ(machine.log.back(), warned("O arquivo está em branco!", "ATENÇÃO!!!"));
+    EXPECT_EQ(machine.log.back(), warningBox("O arquivo está em branco!", "ATENÇÃO!!!"));
     machine.files.on_write = [&] { machine.files.bytes.erase(u"/programa/77 Frente.txt"); };
     loadHidden({});
-    EXPECT_EQ(machine.log.back(), warned("O arquivo não existe!", "ATENÇÃO!!!"));
+    EXPECT_EQ(machine.log.back(), warningBox("O arquivo não existe!", "ATENÇÃO!!!"));
     EXPECT_EQ(form.List1.entries, std::vector<Text>{u"old"});
 }
 
@@ -177,7 +178,7 @@ TEST_F(PedidoTest, ShortLinesAreToldOnceAndTenOfThemNamed) {
     loadHidden(lines);
     const std::string text = "Há linhas incompletas no arquivo 77 Frente.txt, que não foram "
                              "carregadas. Linhas: 3, 4, 5, 6, 7, 8, 9, 10, 11, 12";
-    EXPECT_EQ(machine.logged({"message"}), (Log{warned(text), warned(text + "...")}));
+    EXPECT_EQ(machine.logged({"message"}), (Log{warningBox(text), warningBox(text + "...")}));
     EXPECT_EQ(form.List1.entries, std::vector<Text>{lineOf({})});
 }
 
