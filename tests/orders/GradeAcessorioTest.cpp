@@ -14,7 +14,7 @@ static Slot hiddenSlot(TextView size, TextView quantity) {
 }
 
 /// Width 11 compares the whole master code, field 7, with the seven characters of the key.
-struct AccessoryLineReading {
+struct AccessoryReading {
     std::string name;
     NumberedLine line;
     Text master, price, week, promotion, barcode;
@@ -31,11 +31,11 @@ struct AccessoryItems : LoadedWorkbench {
 };
 
 class GradeAcessorioTest : public testing::Test, protected AccessoryItems {};
-class GradeAcessorioFields : public testing::TestWithParam<AccessoryLineReading>,
+class GradeAcessorioFields : public testing::TestWithParam<AccessoryReading>,
                              protected AccessoryItems {};
 
 TEST_P(GradeAcessorioFields, AreThoseOfTheFirstLine) {
-    AccessoryLineReading reading = GetParam();
+    AccessoryReading reading = GetParam();
     reading.line.others[7] = reading.master;
     NumberedLine later = reading.line;
     later.others[0] = u"99";
@@ -58,8 +58,6 @@ TEST_P(GradeAcessorioFields, AreThoseOfTheFirstLine) {
     EXPECT_EQ(slotsOf(form), reading.slots);
     EXPECT_EQ(form.TXTPARES.locked, reading.locked);
 }
-
-using AccessoryReading = AccessoryLineReading;
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Widths, GradeAcessorioFields, testing::Values(

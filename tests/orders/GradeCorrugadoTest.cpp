@@ -18,17 +18,17 @@ struct Packs : LoadedWorkbench {
 class GradeCorrugadoTest : public testing::Test, protected Packs {};
 
 /// The fields whose place depends on the width of a line.
-struct PackLineReading {
+struct PackReading {
     std::string name;
     NumberedLine line;
     Text key = u"6 | 5|4";
     Text prepack, grade1, grade2, total, week, destination, volume, ean;
 };
 
-class GradeCorrugadoFields : public testing::TestWithParam<PackLineReading>, protected Packs {};
+class GradeCorrugadoFields : public testing::TestWithParam<PackReading>, protected Packs {};
 
 TEST_P(GradeCorrugadoFields, AreThoseOfTheFirstLine) {
-    const PackLineReading& reading = GetParam();
+    const PackReading& reading = GetParam();
     NumberedLine later = reading.line;
     later.others[0] = u"second";
     const bool has_ean = !reading.ean.empty();
@@ -50,8 +50,6 @@ TEST_P(GradeCorrugadoFields, AreThoseOfTheFirstLine) {
     EXPECT_EQ(form.txtean.visible, has_ean);
     EXPECT_EQ(form.lblean.visible, has_ean);
 }
-
-using PackReading = PackLineReading;
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Widths, GradeCorrugadoFields, testing::Values(

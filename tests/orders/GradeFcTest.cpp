@@ -19,16 +19,16 @@ struct BoxItems : LoadedWorkbench {
 class GradeFcTest : public testing::Test, protected BoxItems {};
 
 /// The fields whose place depends on the width of a line.
-struct BoxLineReading {
+struct BoxReading {
     std::string name;
     NumberedLine line;
     Text price, week, banner, promotion;
 };
 
-class GradeFcFields : public testing::TestWithParam<BoxLineReading>, protected BoxItems {};
+class GradeFcFields : public testing::TestWithParam<BoxReading>, protected BoxItems {};
 
 TEST_P(GradeFcFields, AreThoseOfTheFirstLine) {
-    const BoxLineReading& reading = GetParam();
+    const BoxReading& reading = GetParam();
     form.txtpreco.text = u"1,00";
     load({lineOf(reading.line), lineOf({.width = 13, .others = {{2, u"35"}, {8, u"W"}}})},
          u"6 | 4|1 ");
@@ -42,8 +42,6 @@ TEST_P(GradeFcFields, AreThoseOfTheFirstLine) {
     EXPECT_EQ(slotsOf(form), (std::vector<Slot>{{.size = u" 2", .quantity = u"0"},
                                                 {.size = u"35", .quantity = u"0"}}));
 }
-
-using BoxReading = BoxLineReading;
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Widths, GradeFcFields, testing::Values(

@@ -194,6 +194,7 @@ TEST_F(CamposTest, TotalsFollowTheQuantitiesAsFarAsSixteenBitsGo) {
 TEST_F(CamposTest, DoubleClickShowsAndHidesTheOptions) {
     Frame4_dblclick(form);
     EXPECT_TRUE(form.Frame2.visible);
+    EXPECT_FALSE(form.txtgrade1.locked);
     Frame4_dblclick(form);
     EXPECT_FALSE(form.Frame2.visible);
 }

@@ -163,15 +163,12 @@ TEST_F(InicioTest, FailingStepsArePassedOver) {
 }
 
 TEST_F(InicioTest, WindowThatIsClosedClosesTheMarginDialogs) {
-    MargensDialog* const dialogs[] = {&form.FrmMargensOcultaZPL2, &form.FrmMargensCxZPL45,
-                                      &form.FrmMargensPackZPL};
-    for (MargensDialog* const dialog : dialogs) {
-        dialog->open = true;
-    }
+    form.FrmMargensOcultaZPL2.open = form.FrmMargensCxZPL45.open = true;
+    form.FrmMargensPackZPL.open = true;
     FrmPadrao_unload(form);
-    for (const MargensDialog* const dialog : dialogs) {
-        EXPECT_FALSE(dialog->open) << utf8(dialog->Frame1.caption);
-    }
+    EXPECT_FALSE(form.FrmMargensOcultaZPL2.open);
+    EXPECT_FALSE(form.FrmMargensCxZPL45.open);
+    EXPECT_FALSE(form.FrmMargensPackZPL.open);
 }
 
 } // namespace etiquetas::test
