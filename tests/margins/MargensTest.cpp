@@ -73,7 +73,7 @@ struct Calibration : LoadedWorkbench {
     }
 
     // What the last test did, the texts of its labels being one step.
-    Log steps() const {
+    [[nodiscard]] Log steps() const {
         Log steps = machine.logged(
             {"message", "printer", "paper", "width", "height", "print", "page", "end"});
         for (std::string& step : steps) {
@@ -84,7 +84,7 @@ struct Calibration : LoadedWorkbench {
     }
 
     // The texts of the last test, in their order.
-    std::vector<std::string> texts() const {
+    [[nodiscard]] std::vector<std::string> texts() const {
         std::vector<std::string> texts;
         for (const std::string& line : machine.logged({"print"})) {
             texts.push_back(line.substr(line.find(" mm ") + 4));
@@ -93,7 +93,7 @@ struct Calibration : LoadedWorkbench {
     }
 
     // Where the last test printed a text.
-    std::vector<Place> placesOf(const std::string& text) const {
+    [[nodiscard]] std::vector<Place> placesOf(const std::string& text) const {
         std::vector<Place> places;
         for (const std::string& line : machine.logged({"print"})) {
             if (line.ends_with(" mm " + text)) {
