@@ -16,7 +16,7 @@ Desktop::Desktop(const QString& folder)
       form_({printers_, surface_, messages_, pictures_, files_, focus_, pointer_, process_,
              folders_, commands_}),
       bridge_(focus_, [this](const QString& description) { endOnFailure(description); }) {
-    bridgeWindows();
+    bridge_.run([this] { bridgeWindows(); });
     messages_.standOver([this] { return windowUnderBoxes(); }, [this] { bridge_.pushAll(); });
     process_.onEnd([this] { end(0); });
     window_.onClose([this] {

@@ -75,13 +75,13 @@ TEST_F(WindowTest, leadsThroughAnOrderByTheKeyboard) {
     EXPECT_EQ(worker.text(u"TXTOCULTAS"_s), u"6"_s);
     EXPECT_EQ(worker.focused(), u"cmb_referencia"_s);
     worker.press(Qt::Key_Return);
-    EXPECT_EQ(worker.focused(), u"txtnumero(0)"_s);
+    EXPECT_EQ(worker.focused(), u"txtnumero_0"_s);
     worker.keys(u"-2x"_s); // replaces the selected 1; what is no digit is dropped
     worker.pressMnemonic(Qt::Key_I);
     // The quantity was totalled before the command ran, and the next item is there behind it.
     EXPECT_EQ(boxTexts(), std::vector{u"A Impressão está OK"_s});
     EXPECT_EQ(worker.text(u"txtcor"_s), u"AZUL"_s);
-    EXPECT_EQ(worker.text(u"txtnumero(0)"_s), u"3"_s);
+    EXPECT_EQ(worker.text(u"txtnumero_0"_s), u"3"_s);
     EXPECT_EQ(worker.widget<QComboBox>(u"cmb_referencia"_s).count(), 1);
     ASSERT_FALSE(onlyJob().isEmpty());
     EXPECT_EQ(pageSizes(onlyJob()), std::vector<QSizeF>(4, QSizeF(450, 60)));
@@ -153,15 +153,15 @@ TEST_F(WindowTest, filtersKeysAndComposedTexts) {
     composed.setCommitString(u"ç\u00E3"_s);
     QApplication::sendEvent(&worker.widget<QLineEdit>(u"txtcor"_s), &composed);
     EXPECT_EQ(worker.text(u"txtcor"_s), u"MARROMÇÃ"_s);
-    worker.type(u"txtnumero(1)"_s, u"1a2,3"_s);
-    EXPECT_EQ(worker.text(u"txtnumero(1)"_s), u"123"_s);
+    worker.type(u"txtnumero_1"_s, u"1a2,3"_s);
+    EXPECT_EQ(worker.text(u"txtnumero_1"_s), u"123"_s);
     worker.press(Qt::Key_Backspace);
     worker.press(Qt::Key_Home);
     worker.press(Qt::Key_Delete);
-    EXPECT_EQ(worker.text(u"txtnumero(1)"_s), u"2"_s);
-    worker.click(u"txtnumero(0)"_s);
-    worker.click(u"txtnumero(1)"_s);
-    EXPECT_EQ(worker.widget<QLineEdit>(u"txtnumero(1)"_s).selectedText(), u"2"_s);
+    EXPECT_EQ(worker.text(u"txtnumero_1"_s), u"2"_s);
+    worker.click(u"txtnumero_0"_s);
+    worker.click(u"txtnumero_1"_s);
+    EXPECT_EQ(worker.widget<QLineEdit>(u"txtnumero_1"_s).selectedText(), u"2"_s);
     worker.click(u"txtbandeira"_s);
     worker.pressMnemonic(Qt::Key_X); // of no command
     EXPECT_EQ(worker.text(u"txtbandeira"_s), u"BK"_s);
@@ -174,7 +174,7 @@ TEST_F(WindowTest, takesTheTextsOfAnOrderAsTheyStand) {
     worker.press(Qt::Key_Return); // leaves the item list, which loads the item again
     EXPECT_EQ(worker.text(u"txtdescricao"_s).size(), 40'000);
     EXPECT_EQ(worker.text(u"TXTPARES"_s), u"1"_s);
-    EXPECT_EQ(worker.widget<QLabel>(u"Label7(0)"_s).textFormat(), Qt::PlainText);
+    EXPECT_EQ(worker.widget<QLabel>(u"Label7_0"_s).textFormat(), Qt::PlainText);
 }
 
 TEST_F(WindowTest, pressesACommandOnceAndAnswersNoBoxByAKeyThatIsHeldDown) {

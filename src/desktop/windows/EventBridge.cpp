@@ -48,7 +48,7 @@ bool isMnemonic(const QKeyEvent& event) {
 
 // True for a key that is held down on a command, which is pressed once: one item, one job.
 bool repeatsCommand(const FieldRow& row, const QKeyEvent& event) {
-    return row.click && event.isAutoRepeat() &&
+    return row.on.click && event.isAutoRepeat() &&
            (walkingKey(event) == key::enter || event.key() == Qt::Key_Space);
 }
 
@@ -219,9 +219,9 @@ bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
         settleFocus();
         return handleComposed(*row, *static_cast<QInputMethodEvent*>(event));
     case QEvent::MouseButtonDblClick:
-        if (row->dblclick && isOn(*row->widget, *static_cast<QMouseEvent*>(event))) {
+        if (row->on.dblclick && isOn(*row->widget, *static_cast<QMouseEvent*>(event))) {
             settleFocus();
-            run(row->dblclick);
+            run(row->on.dblclick);
         }
         return false;
     case QEvent::Wheel:
@@ -241,11 +241,11 @@ void EventBridge::settleFocus() {
             return;
         }
         FieldRow* const left = std::exchange(active_, focused);
-        if (left != nullptr && left->leave) {
-            run(left->leave);
+        if (left != nullptr && left->on.leave) {
+            run(left->on.leave);
         }
-        if (active_ != nullptr && active_->enter) {
-            run(active_->enter);
+        if (active_ != nullptr && active_->on.enter) {
+            run(active_->on.enter);
         }
     }
 }
@@ -271,7 +271,7 @@ void EventBridge::press(FieldRow& row) {
     row.widget->setFocus();
     settleFocus();
     if (!row.widget->isHidden()) {
-        run(row.click);
+        run(row.on.click);
         moveFocus();
     }
 }
@@ -291,7 +291,7 @@ bool EventBridge::handleKey(const Place& place, const QKeyEvent& event) {
 // list.
 bool EventBridge::handleWindowKey(const Place& place, const QKeyEvent& event) {
     const KeyCode code = walkingKey(event);
-    const bool presses = code == key::enter && place.row->click;
+    const bool presses = code == key::enter && place.row->on.click;
     const bool walks_list =
         code != key::enter && qobject_cast<const QComboBox*>(place.row->widget) != nullptr;
     if (code == key::none || presses || walks_list || !place.window->keydown) {
@@ -305,7 +305,7 @@ bool EventBridge::handleWindowKey(const Place& place, const QKeyEvent& event) {
 // True when the widget must not see the key any more.
 bool EventBridge::handleCharacter(FieldRow& row, const QKeyEvent& event) {
     const KeyCode typed = characterOf(event);
-    if (!row.key || typed == key::none) {
+    if (!row.on.key || typed == key::none) {
         return false;
     }
     const KeyCode key = filtered(row, typed);
@@ -322,7 +322,7 @@ bool EventBridge::handleCharacter(FieldRow& row, const QKeyEvent& event) {
 // An accent and its letter, or another composed text, comes in one piece: each character of it
 // passes as a key of its own.
 bool EventBridge::handleComposed(FieldRow& row, const QInputMethodEvent& event) {
-    if (!row.key || event.commitString().isEmpty()) {
+    if (!row.on.key || event.commitString().isEmpty()) {
         return false;
     }
     QString passed;
@@ -340,7 +340,7 @@ bool EventBridge::handleComposed(FieldRow& row, const QInputMethodEvent& event) 
 
 KeyCode EventBridge::filtered(FieldRow& row, KeyCode key) {
     KeyCode result = key;
-    run([&] { result = row.key(key); });
+    run([&] { result = row.on.key(key); });
     return result;
 }
 
