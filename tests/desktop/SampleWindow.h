@@ -14,6 +14,12 @@ namespace etiquetas::test {
 
 /// The real window on a copy of the sample installation, and an operator at it, once it is opened.
 struct SampleWindow {
+    /// Label kinds by their positions in the list.
+    static constexpr int frente_de_caixa = 0;
+    static constexpr int corrugado = 1;
+    static constexpr int acessorio = 2;
+    static constexpr int oculta = 3;
+
     SampleWindow() {
         const QDir samples(QStringLiteral(ETIQUETAS_SAMPLES));
         const QString photograph = QStringLiteral("imagens/3104527.jpg");

@@ -4,7 +4,6 @@
 #include "ui_ParameterWindow.h"
 
 #include <QCloseEvent>
-#include <QLineEdit>
 #include <QShortcut>
 #include <QWindow>
 
@@ -23,7 +22,7 @@ void DialogWindow::openOver(QWidget& main) {
         windowHandle()->setTransientParent(main.windowHandle());
         move(main.frameGeometry().center() - rect().center());
         show();
-        findChild<QLineEdit*>()->setFocus();
+        first_field_->setFocus();
     }
     raise();
     activateWindow();
@@ -40,12 +39,16 @@ void DialogWindow::closeEvent(QCloseEvent* event) {
 }
 
 MarginWindow::MarginWindow(const QString& name) {
-    Ui::MarginWindow().setupUi(this);
+    Ui::MarginWindow form;
+    form.setupUi(this);
     setObjectName(name);
+    startAt(*form.txtmargem1);
 }
 
 ParameterWindow::ParameterWindow() {
-    Ui::ParameterWindow().setupUi(this);
+    Ui::ParameterWindow form;
+    form.setupUi(this);
+    startAt(*form.TXTPATH);
 }
 
 } // namespace etiquetas

@@ -24,9 +24,13 @@ class DialogWindow : public QWidget {
   protected:
     DialogWindow();
 
+    /// The field that is ready for typing when the dialog opens.
+    void startAt(QWidget& field) { first_field_ = &field; }
+
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    QWidget* first_field_ = this;
     std::function<void()> closed_ = [] {};
 };
 

@@ -38,21 +38,21 @@ KeyCode walkingKey(const QKeyEvent& event) {
     }
 }
 
-// True for the mnemonic of a command: where that is hidden, its letter must not be written. The
-// toolkit tells Ctrl and Alt for the key that writes third characters.
+// True for Alt and a letter, which presses a command; where the command is hidden, the letter must
+// not be written. AltGr, which writes third characters, arrives as Ctrl and Alt.
 bool isMnemonic(const QKeyEvent& event) {
     const auto modifiers = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
     return modifiers == Qt::AltModifier && !event.text().isEmpty() &&
            event.text().front().isPrint();
 }
 
-// True for a key that is held down on a command, which is pressed once: one item, one job.
+// True for a key that is held down on a command: that presses it only once, one item, one job.
 bool repeatsCommand(const FieldRow& row, const QKeyEvent& event) {
     return row.on.click && event.isAutoRepeat() &&
            (walkingKey(event) == key::enter || event.key() == Qt::Key_Space);
 }
 
-// Character of a key, 0 when it writes none. The toolkit gives a text to keys, too, that only move
+// Character of a key, 0 when it writes none. The toolkit gives a text even to keys that only move
 // or delete.
 KeyCode characterOf(const QKeyEvent& event) {
     if (walkingKey(event) == key::enter) {
@@ -66,7 +66,7 @@ KeyCode characterOf(const QKeyEvent& event) {
     return event.text().size() == 1 ? event.text().front().unicode() : key::none;
 }
 
-// A click on a label comes to the panel that the label stands in too, and is none on the panel.
+// A click on a label also reaches the panel around it, but is no click on the panel.
 bool isOn(const QWidget& widget, const QMouseEvent& event) {
     return widget.childAt(event.position().toPoint()) == nullptr;
 }
@@ -122,7 +122,7 @@ void EventBridge::run(const std::function<void()>& handler) {
     if (stopped_) {
         return;
     }
-    // An event within an event, at a message box say, finds the fields ahead of the windows.
+    // While a handler shows a message box, another event finds the fields ahead of the windows.
     if (!running_) {
         pullAll();
     }
@@ -209,8 +209,9 @@ bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
         settleFocus();
         return handleKey(place, *static_cast<QKeyEvent*>(event));
     case QEvent::MouseButtonPress:
-        // The arrow of a list opens it with what the field before it has loaded, unless that hides
-        // it. Elsewhere the entering event comes behind the click, and what it selects stays.
+        // The arrow of a list opens it with what leaving the field before has loaded, unless that
+        // hides the list. Elsewhere the entering event comes after the click, and what it selects
+        // stays selected.
         if (qobject_cast<QComboBox*>(watched) != nullptr) {
             settleFocus();
         }
@@ -225,15 +226,15 @@ bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
         }
         return false;
     case QEvent::Wheel:
-        // A list that has no focus takes no turns.
+        // The wheel turns only a list that has the focus.
         return !row->widget->hasFocus();
     default:
         return false;
     }
 }
 
-// The field that has the focus gets its entering event, the one before its leaving event. A handler
-// that moves the focus is followed by one more turn.
+// The field that had the focus gets its leaving event, the one that has it its entering event. A
+// handler that moves the focus makes for one more round.
 void EventBridge::settleFocus() {
     while (!running_ && !stopped_) {
         FieldRow* const focused = placeOf(focusedWidget()).row;
@@ -266,7 +267,7 @@ void EventBridge::moveFocus() {
 }
 
 // However a command was pressed, it takes the focus first, so that the field that the operator was
-// in has had its leaving event. That event may hide the command.
+// in gets its leaving event before. That event may hide the command.
 void EventBridge::press(FieldRow& row) {
     row.widget->setFocus();
     settleFocus();

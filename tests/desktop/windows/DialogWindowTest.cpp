@@ -36,7 +36,7 @@ static constexpr double liberation(double points) {
 
 static const std::vector<Calibration> calibrations{
     {.name = "hidden_left",
-     .kind = 3,
+     .kind = SampleWindow::oculta,
      .dialog = u"FrmMargensOcultaZPL2"_s,
      .field = u"txtmargem1"_s,
      .stored = u"3"_s,
@@ -46,7 +46,7 @@ static const std::vector<Calibration> calibrations{
      .baseline = {33.3, 2 + carlito(20)},
      .shift = {2.5, 0}},
     {.name = "accessory_right",
-     .kind = 2,
+     .kind = SampleWindow::acessorio,
      .dialog = u"FrmMargensOcultaZPL2"_s,
      .field = u"txtmargem2"_s,
      .stored = u"45"_s,
@@ -56,7 +56,7 @@ static const std::vector<Calibration> calibrations{
      .baseline = {50.5, 13.8 + liberation(5)},
      .shift = {-1, 0}},
     {.name = "box_front_top",
-     .kind = 0,
+     .kind = SampleWindow::frente_de_caixa,
      .dialog = u"FrmMargensCxZPL45"_s,
      .field = u"txtmargemsuperior"_s,
      .stored = u"3"_s,
@@ -66,7 +66,7 @@ static const std::vector<Calibration> calibrations{
      .baseline = {2.3, 21 + liberation(7)},
      .shift = {0, 1.25}},
     {.name = "carton_left",
-     .kind = 1,
+     .kind = SampleWindow::corrugado,
      .dialog = u"FrmMargensPackZPL"_s,
      .field = u"txtmargem1"_s,
      .stored = u"3"_s,
@@ -147,7 +147,7 @@ INSTANTIATE_TEST_SUITE_P(Margins, DialogWindowTest, testing::ValuesIn(calibratio
                          [](const auto& calibration) { return calibration.param.name; });
 
 TEST_F(DialogWindowTest, leadsToTheFirstBlankMarginAndDropsWhatIsNoNumber) {
-    load(3, "1400050831");
+    load(oculta, "1400050831");
     openDialog(calibrations.front());
     EXPECT_EQ(worker.focused(), u"txtmargem1"_s);
     EXPECT_EQ(worker.widget<QLineEdit>(u"txtmargem1"_s).selectedText(), u"3"_s);
@@ -181,9 +181,10 @@ TEST_F(DialogWindowTest, keepsTheOrderFolderAndShowsStoredParametersOnce) {
     EXPECT_FALSE(isOpen(u"FrmParametroImpressora"_s));
     EXPECT_TRUE(settings().contains("Path=" + orders.toUtf8() + "\r\n"));
     worker.turnTo(u"FrmPadrao"_s);
-    load(3, "1400050831");
-    EXPECT_EQ(worker.takeBoxes().at(0).text,
-              u"O Pedido 1400050831, não foi localizado em "_s + orders);
+    load(oculta, "1400050831");
+    const QString not_found = u"O Pedido 1400050831, não foi localizado em "_s + orders;
+    // Searched by leaving the kind, by Enter, and by leaving the order number.
+    EXPECT_EQ(boxTexts(), QStringList(3, not_found));
     worker.click(u"cmd_parametro"_s);
     worker.turnTo(u"FrmParametroImpressora"_s);
     EXPECT_EQ(worker.text(path), QString());

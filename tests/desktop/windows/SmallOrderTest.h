@@ -6,11 +6,6 @@
 
 namespace etiquetas::test {
 
-/// Positions in the list of label kinds.
-inline constexpr int corrugado = 1;
-inline constexpr int acessorio = 2;
-inline constexpr int oculta = 3;
-
 /// The window with the order 77, which has an item of two sizes and one of one size.
 class SmallOrderTest : public testing::Test, protected SampleWindow {
   protected:
