@@ -54,7 +54,7 @@ Widget* WindowBinder::find(const QString& name, bool needed) {
 }
 
 template <typename Widget, typename Field>
-void WindowBinder::addCaptioned(const QString& name, Field& field, FieldEvents on) {
+void WindowBinder::addCaptioned(const QString& name, Field& field, FieldEvents&& on) {
     auto* const widget = find<Widget>(name);
     auto* const caption = find<QLabel>(name + QStringLiteral("_caption"), !field.caption.empty());
     if (widget != nullptr) {
@@ -63,7 +63,7 @@ void WindowBinder::addCaptioned(const QString& name, Field& field, FieldEvents o
 }
 
 template <typename Widget, typename Field>
-void WindowBinder::addPlain(const QString& name, Field& field, FieldEvents on) {
+void WindowBinder::addPlain(const QString& name, Field& field, FieldEvents&& on) {
     if (auto* const widget = find<Widget>(name)) {
         take(mirrored(*widget, field), std::move(on));
     }

@@ -94,9 +94,9 @@ class WindowBinder {
     template <typename Widget>
     [[nodiscard]] Widget* find(const QString& name, bool needed = true);
     template <typename Widget, typename Field>
-    void addCaptioned(const QString& name, Field& field, FieldEvents on);
+    void addCaptioned(const QString& name, Field& field, FieldEvents&& on);
     template <typename Widget, typename Field>
-    void addPlain(const QString& name, Field& field, FieldEvents on);
+    void addPlain(const QString& name, Field& field, FieldEvents&& on);
     void take(FieldRow row, FieldEvents on);
 
     const QWidget& window_;
