@@ -23,8 +23,8 @@ void settle() {
     QCoreApplication::processEvents();
 }
 
-// A window system gives the focus back to the window behind a closed box; headless, nobody does. A
-// display takes its time for it, and gives the focus to a field later still.
+// A window system gives the focus back to the window when a box over it closes, after some time;
+// headless, nobody does. The field in the window gets the focus later still.
 void bringToFront(QWidget& window) {
     const auto has_focus = [&window] {
         const QWidget* const focused = QApplication::focusWidget();

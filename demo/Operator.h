@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -29,7 +30,7 @@ class Operator {
 
     /// Takes a seat at the main window, which has been shown.
     void sitAt(Desktop& desktop);
-    /// Works on a dialog from here on, which is open, or on the main window, by its name. All names
+    /// Works from here on on the window of that name, an open dialog or the main window. All names
     /// of widgets are those of this window.
     void turnTo(const QString& window);
 
@@ -51,10 +52,14 @@ class Operator {
     [[nodiscard]] QString focused() const;
     /// The text of a field, list or label.
     [[nodiscard]] QString text(const QString& name) const;
-    /// The widget of that name and type; it must be there.
+    /// The widget of that name and type. Throws a `std::invalid_argument` where there is none.
     template <typename Widget>
     [[nodiscard]] Widget& widget(const QString& name) const {
-        return *window_->findChild<Widget*>(name);
+        auto* const found = window_->findChild<Widget*>(name);
+        if (found == nullptr) {
+            throw std::invalid_argument("no widget " + name.toStdString());
+        }
+        return *found;
     }
 
     /// What runs while a box stands, before it is answered.

@@ -84,7 +84,7 @@ class Demonstration {
     }
 
     // The list of kinds does not offer this one, and leaving the list with it would hide the
-    // command: the field takes its text behind the operator's back.
+    // command: the text is set on the list directly.
     bool printWithPhotograph(const QString& order) {
         load(order, kinds.front());
         operator_.widget<QComboBox>(QStringLiteral("cmbtipo"))

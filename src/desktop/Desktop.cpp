@@ -41,20 +41,23 @@ void Desktop::tellOfJob(const QString& path) {
                  QDir::toNativeSeparators(path));
 }
 
+// A window that lacks the widget of a field ends the program like any other failure.
 void Desktop::bridgeWindows() {
-    bridge_.add(fieldTable(form_, window_));
-    const auto addDialog = [this](DialogWindow& window, BridgedWindow table, bool& open) {
-        bridge_.add(std::move(table));
-        window.onClose([this, &open] { bridge_.run([&open] { open = false; }); });
-    };
-    const auto addMargins = [&](DialogWindow& window, MargensDialog& dialog) {
-        addDialog(window, marginTable(form_, dialog, window, window_), dialog.open);
-    };
-    addMargins(oculta_margins_, form_.FrmMargensOcultaZPL2);
-    addMargins(caixa_margins_, form_.FrmMargensCxZPL45);
-    addMargins(pack_margins_, form_.FrmMargensPackZPL);
-    addDialog(parameters_, parameterTable(form_, parameters_, window_),
-              form_.FrmParametroImpressora.open);
+    bridge_.run([this] {
+        bridge_.add(fieldTable(form_, window_));
+        const auto addDialog = [this](DialogWindow& window, BridgedWindow table, bool& open) {
+            bridge_.add(std::move(table));
+            window.onClose([this, &open] { bridge_.run([&open] { open = false; }); });
+        };
+        const auto addMargins = [&](DialogWindow& window, MargensDialog& dialog) {
+            addDialog(window, marginTable(form_, dialog, window, window_), dialog.open);
+        };
+        addMargins(oculta_margins_, form_.FrmMargensOcultaZPL2);
+        addMargins(caixa_margins_, form_.FrmMargensCxZPL45);
+        addMargins(pack_margins_, form_.FrmMargensPackZPL);
+        addDialog(parameters_, parameterTable(form_, parameters_, window_),
+                  form_.FrmParametroImpressora.open);
+    });
 }
 
 std::vector<DialogWindow*> Desktop::dialogs() {

@@ -2,9 +2,11 @@
 
 #include "demo/Operator.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <optional>
 
@@ -12,6 +14,12 @@ namespace etiquetas::test {
 
 /// The real window on a copy of the sample installation, and an operator at it, once it is opened.
 struct SampleWindow {
+    /// Label kinds by their positions in the list.
+    static constexpr int frente_de_caixa = 0;
+    static constexpr int corrugado = 1;
+    static constexpr int acessorio = 2;
+    static constexpr int oculta = 3;
+
     SampleWindow() {
         const QDir samples(QStringLiteral(ETIQUETAS_SAMPLES));
         const QString photograph = QStringLiteral("imagens/3104527.jpg");
@@ -23,6 +31,7 @@ struct SampleWindow {
     }
 
     void open() {
+        forgetEarlierEnd();
         desktop.emplace(folder.path());
         desktop->start();
         worker.sitAt(*desktop);
@@ -36,18 +45,36 @@ struct SampleWindow {
         worker.press(Qt::Key_Return);
     }
 
-    /// Presses a command and tells the one file of labels that it wrote; empty where it wrote none
-    /// or several.
+    /// The files of labels that were written, by their paths; one that was only begun counts too.
+    [[nodiscard]] QStringList jobs() const {
+        QStringList paths;
+        const QDir written(folder.filePath(QStringLiteral("impressos")));
+        for (const QFileInfo& job : written.entryInfoList(QDir::Files | QDir::Hidden)) {
+            paths << job.filePath();
+        }
+        return paths;
+    }
+
+    /// Presses a command, and takes away the one file of labels that it wrote; empty where it wrote
+    /// none or several.
     [[nodiscard]] QString writtenBy(const QString& command) {
         worker.click(command);
-        const QDir written(folder.filePath(QStringLiteral("impressos")));
-        const QStringList names = written.entryList(QDir::Files);
-        if (names.size() != 1) {
+        const QStringList written = jobs();
+        if (written.size() != 1) {
             return {};
         }
-        const QString kept = folder.filePath(QStringLiteral("job%1.pdf").arg(++jobs));
-        QFile::rename(written.filePath(names.first()), kept);
+        const QString kept = folder.filePath(QStringLiteral("job%1.pdf").arg(++kept_jobs));
+        QFile::rename(written.first(), kept);
         return kept;
+    }
+
+    /// The texts of the boxes since the last call.
+    [[nodiscard]] QStringList boxTexts() {
+        QStringList texts;
+        for (const SeenBox& box : worker.takeBoxes()) {
+            texts << box.text;
+        }
+        return texts;
     }
 
     [[nodiscard]] QByteArray settings() const {
@@ -55,10 +82,17 @@ struct SampleWindow {
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
+    // A program that has ended keeps the boxes of the next one from standing, until the toolkit's
+    // loop has run once more.
+    static void forgetEarlierEnd() {
+        QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+        QCoreApplication::exec();
+    }
+
     QTemporaryDir folder;
     Operator worker;
     std::optional<Desktop> desktop;
-    int jobs = 0;
+    int kept_jobs = 0;
 };
 
 } // namespace etiquetas::test

@@ -1,155 +1,92 @@
 #include "desktop/windows/DialogTable.h"
 
 #include "desktop/machine/QtText.h"
+#include "desktop/windows/Bindings.h"
 #include "desktop/windows/DialogWindow.h"
-#include "desktop/windows/NamedWidgets.h"
 #include "margins/Margens.h"
 #include "model/FrmPadrao.h"
 #include "workbench/FrmParametroImpressora.h"
-
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 
 namespace etiquetas {
 
 namespace {
 
-template <typename Dialog, typename Field>
-struct Binding {
-    const char* name;
-    Field Dialog::*field;
-};
+template <TextField MargensDialog::*margin>
+void enterMargin(FrmPadrao& /*form*/, MargensDialog& dialog) {
+    margem_enter(dialog.*margin);
+}
 
-template <typename Dialog>
-struct CommandBinding {
-    const char* name;
-    Command Dialog::*field;
-    void (*click)(FrmPadrao&, Dialog&);
-};
+KeyCode filterMarginKey(FrmPadrao& /*form*/, MargensDialog& /*dialog*/, KeyCode key) {
+    return margem_key(key);
+}
 
-constexpr Binding<MargensDialog, Label> margin_labels[] = {
-    {"Label1", &MargensDialog::Label1}, {"Label2", &MargensDialog::Label2},
-    {"Label3", &MargensDialog::Label3}, {"Label5", &MargensDialog::Label5},
+template <TextField MargensDialog::*margin>
+constexpr Handlers<FrmPadrao, MargensDialog> margin_events{.enter = enterMargin<margin>,
+                                                           .key = filterMarginKey};
+
+constexpr Binding<MargensDialog, FrmPadrao, MargensDialog> margin_bindings[] = {
+    {"Frame1", &MargensDialog::Frame1},
+    {"Label1", &MargensDialog::Label1},
+    {"Label2", &MargensDialog::Label2},
+    {"Label3", &MargensDialog::Label3},
+    {"Label5", &MargensDialog::Label5},
     {"Label6", &MargensDialog::Label6},
-};
-constexpr Binding<MargensDialog, TextField> margin_fields[] = {
-    {"txtmargem1", &MargensDialog::txtmargem1},
-    {"txtmargem2", &MargensDialog::txtmargem2},
-    {"txtmargemsuperior", &MargensDialog::txtmargemsuperior},
-};
-constexpr CommandBinding<MargensDialog> margin_commands[] = {
-    {"cmd_gravar", &MargensDialog::cmd_gravar, cmd_gravar_click},
-    {"cmd_teste", &MargensDialog::cmd_teste, cmd_teste_click},
-    {"cmd_exit", &MargensDialog::cmd_exit, cmd_exit_click},
+    {"txtmargem1", &MargensDialog::txtmargem1, margin_events<&MargensDialog::txtmargem1>},
+    {"txtmargem2", &MargensDialog::txtmargem2, margin_events<&MargensDialog::txtmargem2>},
+    {"txtmargemsuperior", &MargensDialog::txtmargemsuperior,
+     margin_events<&MargensDialog::txtmargemsuperior>},
+    {"cmd_gravar", &MargensDialog::cmd_gravar, {.click = cmd_gravar_click}},
+    {"cmd_teste", &MargensDialog::cmd_teste, {.click = cmd_teste_click}},
+    {"cmd_exit", &MargensDialog::cmd_exit, {.click = cmd_exit_click}},
 };
 
-constexpr Binding<ParametroDialog, Label> parameter_labels[] = {
-    {"Label6", &ParametroDialog::Label6},   {"Label7", &ParametroDialog::Label7},
-    {"Label8", &ParametroDialog::Label8},   {"Label9", &ParametroDialog::Label9},
+constexpr Binding<ParametroDialog, FrmPadrao> parameter_bindings[] = {
+    {"Label6", &ParametroDialog::Label6},
+    {"Label7", &ParametroDialog::Label7},
+    {"Label8", &ParametroDialog::Label8},
+    {"Label9", &ParametroDialog::Label9},
     {"Label10", &ParametroDialog::Label10},
-};
-constexpr CommandBinding<ParametroDialog> parameter_commands[] = {
-    {"CMD_GETPATH", &ParametroDialog::CMD_GETPATH,
-     [](FrmPadrao& form, ParametroDialog&) { CMD_GETPATH_click(form); }},
-    {"cmd_grava", &ParametroDialog::cmd_grava,
-     [](FrmPadrao& form, ParametroDialog&) { cmd_grava_click(form); }},
-    {"cmd_sair", &ParametroDialog::cmd_sair,
-     [](FrmPadrao& form, ParametroDialog&) { FrmParametroImpressora_cmd_sair_click(form); }},
+    {"TXTPATH", &ParametroDialog::TXTPATH},
+    {"Frame5", &ParametroDialog::Frame5},
+    {"CMD_GETPATH", &ParametroDialog::CMD_GETPATH, {.click = CMD_GETPATH_click}},
+    {"cmd_grava", &ParametroDialog::cmd_grava, {.click = cmd_grava_click}},
+    {"cmd_sair", &ParametroDialog::cmd_sair, {.click = FrmParametroImpressora_cmd_sair_click}},
 };
 
-// Finds widgets by name and gathers the rows.
+// The window shows the dialog's caption, and stands over the main window while the dialog is open.
 template <typename Dialog>
-class Table {
-  public:
-    Table(FrmPadrao& form, Dialog& dialog, const QWidget& window)
-        : form_(form), dialog_(dialog), window_(window) {}
-
-    template <typename Widget, typename Field, std::size_t count>
-    void add(const Binding<Dialog, Field> (&bindings)[count]) {
-        for (const auto& binding : bindings) {
-            rows_.push_back(mirrored(widget<Widget>(binding.name), dialog_.*binding.field));
-        }
+void pushDialog(Dialog& dialog, DialogWindow& window, QWidget& main) {
+    window.setWindowTitle(toQString(dialog.Caption));
+    if (dialog.open && (window.isHidden() || dialog.to_front)) {
+        window.openOver(main);
+    } else if (!dialog.open && !window.isHidden()) {
+        window.closeOver(main);
     }
+    dialog.to_front = false;
+}
 
-    template <std::size_t count>
-    void add(const CommandBinding<Dialog> (&bindings)[count]) {
-        for (const auto& binding : bindings) {
-            FieldRow row = mirrored(widget<QPushButton>(binding.name), dialog_.*binding.field);
-            row.click = [&form = form_, &dialog = dialog_, click = binding.click] {
-                click(form, dialog);
-            };
-            rows_.push_back(std::move(row));
-        }
-    }
-
-    // A field with its caption, which may be missing.
-    FieldRow& addField(const char* name, TextField& field) {
-        QLabel* const caption = captionOf(QString::fromLatin1(name), window_);
-        rows_.push_back(mirrored(widget<QLineEdit>(name), caption, field));
-        return rows_.back();
-    }
-
-    void add(const char* name, Panel& panel) {
-        rows_.push_back(mirrored(widget<QGroupBox>(name), panel));
-    }
-
-    // The window shows the dialog's caption, and stands over the main window while it is open.
-    BridgedWindow taken(DialogWindow& window, QWidget& main) {
-        return {.window = &window,
-                .rows = std::move(rows_),
-                .push = [&dialog = dialog_, &window, &main] { show(dialog, window, main); },
-                .keydown = {}};
-    }
-
-  private:
-    template <typename Widget>
-    Widget& widget(const char* name) const {
-        return widgetNamed<Widget>(QString::fromLatin1(name), window_);
-    }
-
-    static void show(Dialog& dialog, DialogWindow& window, QWidget& main) {
-        window.setWindowTitle(toQString(dialog.Caption));
-        if (dialog.open && (window.isHidden() || dialog.to_front)) {
-            window.openOver(main);
-        } else if (!dialog.open && !window.isHidden()) {
-            window.closeOver(main);
-        }
-        dialog.to_front = false;
-    }
-
-    FrmPadrao& form_;
-    Dialog& dialog_;
-    const QWidget& window_;
-    std::vector<FieldRow> rows_;
-};
+template <typename Dialog>
+BridgedWindow bridged(Dialog& dialog, DialogWindow& window, QWidget& main, WindowBinder& binder) {
+    return {.window = &window,
+            .rows = binder.takeRows(),
+            .push = [&dialog, &window, &main] { pushDialog(dialog, window, main); },
+            .keydown = {}};
+}
 
 } // namespace
 
 BridgedWindow marginTable(FrmPadrao& form, MargensDialog& dialog, DialogWindow& window,
                           QWidget& main) {
-    Table table(form, dialog, window);
-    table.add("Frame1", dialog.Frame1);
-    table.template add<QLabel>(margin_labels);
-    for (const auto& binding : margin_fields) {
-        TextField& field = dialog.*binding.field;
-        FieldRow& row = table.addField(binding.name, field);
-        row.enter = [&field] { margem_enter(field); };
-        row.key = margem_key;
-    }
-    table.add(margin_commands);
-    return table.taken(window, main);
+    WindowBinder binder(window);
+    binder.add(margin_bindings, dialog, form, dialog);
+    return bridged(dialog, window, main, binder);
 }
 
 BridgedWindow parameterTable(FrmPadrao& form, DialogWindow& window, QWidget& main) {
     ParametroDialog& dialog = form.FrmParametroImpressora;
-    Table table(form, dialog, window);
-    table.template add<QLabel>(parameter_labels);
-    table.addField("TXTPATH", dialog.TXTPATH);
-    table.add("Frame5", dialog.Frame5);
-    table.add(parameter_commands);
-    return table.taken(window, main);
+    WindowBinder binder(window);
+    binder.add(parameter_bindings, dialog, form);
+    return bridged(dialog, window, main, binder);
 }
 
 } // namespace etiquetas

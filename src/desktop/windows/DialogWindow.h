@@ -6,8 +6,8 @@
 
 namespace etiquetas {
 
-/// A dialog beside the Workbench: its widgets, laid out, each named after its field. It stays over
-/// the main window and leaves it usable. It is shown and hidden from outside alone.
+/// A dialog beside the Workbench: the widgets of its form, each named after its field. It stays
+/// over the main window and leaves it usable. It is shown and hidden from outside alone.
 class DialogWindow : public QWidget {
     Q_OBJECT
 
@@ -22,15 +22,19 @@ class DialogWindow : public QWidget {
     void closeOver(QWidget& main);
 
   protected:
-    explicit DialogWindow(const QString& name);
+    DialogWindow();
+
+    /// The field that is ready for typing when the dialog opens.
+    void startAt(QWidget& field) { first_field_ = &field; }
 
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    QWidget* first_field_ = this;
     std::function<void()> closed_ = [] {};
 };
 
-/// A margin dialog; what it lacks is hidden by its fields.
+/// A margin dialog. The form is that of all of them; what a dialog lacks is hidden by its fields.
 class MarginWindow final : public DialogWindow {
     Q_OBJECT
 

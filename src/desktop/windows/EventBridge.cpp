@@ -38,21 +38,21 @@ KeyCode walkingKey(const QKeyEvent& event) {
     }
 }
 
-// True for the mnemonic of a command: where that is hidden, its letter must not be written. The
-// toolkit tells Ctrl and Alt for the key that writes third characters.
+// True for Alt and a letter, which presses a command; where the command is hidden, the letter must
+// not be written. AltGr, which writes third characters, arrives as Ctrl and Alt.
 bool isMnemonic(const QKeyEvent& event) {
     const auto modifiers = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
     return modifiers == Qt::AltModifier && !event.text().isEmpty() &&
            event.text().front().isPrint();
 }
 
-// True for a key that is held down on a command, which is pressed once: one item, one job.
+// True for a key that is held down on a command: that presses it only once, one item, one job.
 bool repeatsCommand(const FieldRow& row, const QKeyEvent& event) {
-    return row.click && event.isAutoRepeat() &&
+    return row.on.click && event.isAutoRepeat() &&
            (walkingKey(event) == key::enter || event.key() == Qt::Key_Space);
 }
 
-// Character of a key, 0 when it writes none. The toolkit gives a text to keys, too, that only move
+// Character of a key, 0 when it writes none. The toolkit gives a text even to keys that only move
 // or delete.
 KeyCode characterOf(const QKeyEvent& event) {
     if (walkingKey(event) == key::enter) {
@@ -66,7 +66,7 @@ KeyCode characterOf(const QKeyEvent& event) {
     return event.text().size() == 1 ? event.text().front().unicode() : key::none;
 }
 
-// A click on a label comes to the panel that the label stands in too, and is none on the panel.
+// A click on a label also reaches the panel around it, but is no click on the panel.
 bool isOn(const QWidget& widget, const QMouseEvent& event) {
     return widget.childAt(event.position().toPoint()) == nullptr;
 }
@@ -122,7 +122,7 @@ void EventBridge::run(const std::function<void()>& handler) {
     if (stopped_) {
         return;
     }
-    // An event within an event, at a message box say, finds the fields ahead of the windows.
+    // While a handler shows a message box, another event finds the fields ahead of the windows.
     if (!running_) {
         pullAll();
     }
@@ -209,8 +209,9 @@ bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
         settleFocus();
         return handleKey(place, *static_cast<QKeyEvent*>(event));
     case QEvent::MouseButtonPress:
-        // The arrow of a list opens it with what the field before it has loaded, unless that hides
-        // it. Elsewhere the entering event comes behind the click, and what it selects stays.
+        // The arrow of a list opens it with what leaving the field before has loaded, unless that
+        // hides the list. Elsewhere the entering event comes after the click, and what it selects
+        // stays selected.
         if (qobject_cast<QComboBox*>(watched) != nullptr) {
             settleFocus();
         }
@@ -219,21 +220,21 @@ bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
         settleFocus();
         return handleComposed(*row, *static_cast<QInputMethodEvent*>(event));
     case QEvent::MouseButtonDblClick:
-        if (row->dblclick && isOn(*row->widget, *static_cast<QMouseEvent*>(event))) {
+        if (row->on.dblclick && isOn(*row->widget, *static_cast<QMouseEvent*>(event))) {
             settleFocus();
-            run(row->dblclick);
+            run(row->on.dblclick);
         }
         return false;
     case QEvent::Wheel:
-        // A list that has no focus takes no turns.
+        // The wheel turns only a list that has the focus.
         return !row->widget->hasFocus();
     default:
         return false;
     }
 }
 
-// The field that has the focus gets its entering event, the one before its leaving event. A handler
-// that moves the focus is followed by one more turn.
+// The field that had the focus gets its leaving event, the one that has it its entering event. A
+// handler that moves the focus makes for one more round.
 void EventBridge::settleFocus() {
     while (!running_ && !stopped_) {
         FieldRow* const focused = placeOf(focusedWidget()).row;
@@ -241,11 +242,11 @@ void EventBridge::settleFocus() {
             return;
         }
         FieldRow* const left = std::exchange(active_, focused);
-        if (left != nullptr && left->leave) {
-            run(left->leave);
+        if (left != nullptr && left->on.leave) {
+            run(left->on.leave);
         }
-        if (active_ != nullptr && active_->enter) {
-            run(active_->enter);
+        if (active_ != nullptr && active_->on.enter) {
+            run(active_->on.enter);
         }
     }
 }
@@ -266,12 +267,12 @@ void EventBridge::moveFocus() {
 }
 
 // However a command was pressed, it takes the focus first, so that the field that the operator was
-// in has had its leaving event. That event may hide the command.
+// in gets its leaving event before. That event may hide the command.
 void EventBridge::press(FieldRow& row) {
     row.widget->setFocus();
     settleFocus();
     if (!row.widget->isHidden()) {
-        run(row.click);
+        run(row.on.click);
         moveFocus();
     }
 }
@@ -291,7 +292,7 @@ bool EventBridge::handleKey(const Place& place, const QKeyEvent& event) {
 // list.
 bool EventBridge::handleWindowKey(const Place& place, const QKeyEvent& event) {
     const KeyCode code = walkingKey(event);
-    const bool presses = code == key::enter && place.row->click;
+    const bool presses = code == key::enter && place.row->on.click;
     const bool walks_list =
         code != key::enter && qobject_cast<const QComboBox*>(place.row->widget) != nullptr;
     if (code == key::none || presses || walks_list || !place.window->keydown) {
@@ -305,7 +306,7 @@ bool EventBridge::handleWindowKey(const Place& place, const QKeyEvent& event) {
 // True when the widget must not see the key any more.
 bool EventBridge::handleCharacter(FieldRow& row, const QKeyEvent& event) {
     const KeyCode typed = characterOf(event);
-    if (!row.key || typed == key::none) {
+    if (!row.on.key || typed == key::none) {
         return false;
     }
     const KeyCode key = filtered(row, typed);
@@ -322,7 +323,7 @@ bool EventBridge::handleCharacter(FieldRow& row, const QKeyEvent& event) {
 // An accent and its letter, or another composed text, comes in one piece: each character of it
 // passes as a key of its own.
 bool EventBridge::handleComposed(FieldRow& row, const QInputMethodEvent& event) {
-    if (!row.key || event.commitString().isEmpty()) {
+    if (!row.on.key || event.commitString().isEmpty()) {
         return false;
     }
     QString passed;
@@ -340,7 +341,7 @@ bool EventBridge::handleComposed(FieldRow& row, const QInputMethodEvent& event) 
 
 KeyCode EventBridge::filtered(FieldRow& row, KeyCode key) {
     KeyCode result = key;
-    run([&] { result = row.key(key); });
+    run([&] { result = row.on.key(key); });
     return result;
 }
 

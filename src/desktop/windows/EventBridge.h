@@ -59,7 +59,7 @@ class EventBridge final : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    // A row and the window that it stands in; nothing for a widget of neither.
+    // A row and the window it stands in; both null for a widget that shows no field.
     struct Place {
         BridgedWindow* window = nullptr;
         FieldRow* row = nullptr;

@@ -27,11 +27,17 @@ void showOrHide(QWidget& widget, bool visible) {
     }
 }
 
-void pushCaption(QLabel* label, const Text& caption, bool visible) {
-    if (label != nullptr) {
-        label->setTextFormat(Qt::PlainText); // an order may hold anything, markup among it
-        label->setText(toQString(caption));
-        showOrHide(*label, visible);
+void pushLabel(QLabel& label, const Text& text, bool visible) {
+    label.setTextFormat(Qt::PlainText); // an order may hold anything, markup among it
+    label.setText(toQString(text));
+    showOrHide(label, visible);
+}
+
+template <typename Field>
+void pushCaption(QLabel* caption, const Field& field, QWidget& widget) {
+    if (caption != nullptr) {
+        pushLabel(*caption, field.caption, field.visible);
+        widget.setAccessibleName(toQString(field.caption));
     }
 }
 
@@ -43,7 +49,7 @@ Selection selectionOf(const QLineEdit& edit) {
             static_cast<std::size_t>(edit.selectionLength())};
 }
 
-// A text that a handler made shorter leaves its selection behind the end.
+// A text that a handler made shorter may end before its selection does.
 void select(QLineEdit& edit, const Selection& selection) {
     const auto length = static_cast<std::size_t>(edit.text().size());
     const Selection inside{std::min(selection.start, length), selection.length};
@@ -144,7 +150,7 @@ FieldRow mirrored(QLineEdit& edit, QLabel* caption, TextField& field) {
     };
     row.push = [&edit, caption, &field] {
         pushEdit(edit, field);
-        pushCaption(caption, field.caption, field.visible);
+        pushCaption(caption, field, edit);
     };
     return row;
 }
@@ -155,7 +161,7 @@ FieldRow mirrored(QComboBox& box, QLabel* caption, ListField& field) {
     row.pull = [&box, &field] { pullList(box, field); };
     row.push = [&box, caption, &field, shown = std::make_shared<std::vector<Text>>()] {
         pushList(box, field, *shown);
-        pushCaption(caption, field.caption, field.visible);
+        pushCaption(caption, field, box);
     };
     return row;
 }
@@ -163,7 +169,7 @@ FieldRow mirrored(QComboBox& box, QLabel* caption, ListField& field) {
 FieldRow mirrored(QLabel& label, Label& field) {
     FieldRow row;
     row.widget = &label;
-    row.push = [&label, &field] { pushCaption(&label, field.caption, field.visible); };
+    row.push = [&label, &field] { pushLabel(label, field.caption, field.visible); };
     return row;
 }
 

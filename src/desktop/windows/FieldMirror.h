@@ -14,25 +14,32 @@ class QWidget;
 
 namespace etiquetas {
 
-/// A widget beside its field: how the one takes over the other, and what its events run.
-struct FieldRow {
-    QWidget* widget = nullptr;
-    /// The field, where it is one that the focus can be given to.
-    const TextField* text_field = nullptr;
-    /// Takes what the operator typed or chose into the field; empty where he can't.
-    std::function<void()> pull;
-    /// Shows what the field holds.
-    std::function<void()> push;
-
+/// What the events of a field run; empty where an event runs nothing.
+struct FieldEvents {
     std::function<void()> enter;
+    /// Takes the character that was typed and gives the one to write, 0 for none.
     std::function<KeyCode(KeyCode)> key;
     std::function<void()> leave;
     std::function<void()> dblclick;
     std::function<void()> click;
 };
 
-// Rows without events, one kind of field each. The caption stands in a label of its own, which may
-// be missing, and is hidden with its field. Field and widgets must outlive the row.
+/// A widget beside its field: how each takes over from the other, and what the events run.
+struct FieldRow {
+    QWidget* widget = nullptr;
+    /// The field, where it is one that the focus can be given to.
+    const TextField* text_field = nullptr;
+    /// Takes what the operator typed or chose into the field; empty where they can't.
+    std::function<void()> pull;
+    /// Shows what the field holds.
+    std::function<void()> push;
+
+    FieldEvents on;
+};
+
+// Rows without events, one kind of field each. The caption stands in a label of its own, null where
+// the field has none, and is hidden with the field; screen readers tell it as the field's name.
+// Field and widgets must outlive the row.
 
 [[nodiscard]] FieldRow mirrored(QLineEdit& edit, QLabel* caption, TextField& field);
 [[nodiscard]] FieldRow mirrored(QComboBox& box, QLabel* caption, ListField& field);

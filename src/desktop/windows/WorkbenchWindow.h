@@ -6,8 +6,8 @@
 
 namespace etiquetas {
 
-/// The window of the Workbench: its widgets, laid out, each named after its field. It knows nothing
-/// of what the fields do.
+/// The window of the Workbench: the widgets of its form, each named after its field. It knows
+/// nothing of what the fields do.
 class WorkbenchWindow final : public QMainWindow {
     Q_OBJECT
 

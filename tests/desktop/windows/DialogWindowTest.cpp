@@ -1,5 +1,5 @@
-#include "PdfTools.h"
-#include "SampleWindow.h"
+#include "tests/desktop/PdfTools.h"
+#include "tests/desktop/SampleWindow.h"
 
 #include <QLineEdit>
 #include <gtest/gtest.h>
@@ -12,7 +12,10 @@ using namespace Qt::StringLiterals;
 struct Calibration {
     const char* name;
     int kind; // position in the list
-    QString dialog, field, stored, changed;
+    QString dialog;
+    QString field;
+    QString stored;
+    QString changed;
     QByteArray setting; // the line that is stored
     QString text;
     QPointF baseline; // of the text with the sample margins, millimetres
@@ -31,22 +34,52 @@ static constexpr double liberation(double points) {
     return 1854.0 / 2048 * points * 25.4 / 72;
 }
 
-// clang-format off
 static const std::vector<Calibration> calibrations{
-    {"hidden_left", 3, u"FrmMargensOcultaZPL2"_s, u"txtmargem1"_s, u"3"_s, u"5,5"_s,
-     "Margem_oculta1=5,5", u"527"_s, {33.3, 2 + carlito(20)}, {2.5, 0}},
-    {"accessory_right", 2, u"FrmMargensOcultaZPL2"_s, u"txtmargem2"_s, u"45"_s, u"44"_s,
-     "Margem_oculta11=44", u"5201104"_s, {50.5, 13.8 + liberation(5)}, {-1, 0}},
-    {"box_front_top", 0, u"FrmMargensCxZPL45"_s, u"txtmargemsuperior"_s, u"3"_s, u"4,25"_s,
-     "Mx4045=4,25", u"3104527001"_s, {2.3, 21 + liberation(7)}, {0, 1.25}},
-    {"carton_left", 1, u"FrmMargensPackZPL"_s, u"txtmargem1"_s, u"3"_s, u"10"_s,
-     "PackX=10", u"3104527001"_s, {58, 29.7 + liberation(20)}, {7, 0}},
+    {.name = "hidden_left",
+     .kind = SampleWindow::oculta,
+     .dialog = u"FrmMargensOcultaZPL2"_s,
+     .field = u"txtmargem1"_s,
+     .stored = u"3"_s,
+     .changed = u"5,5"_s,
+     .setting = "Margem_oculta1=5,5",
+     .text = u"527"_s,
+     .baseline = {33.3, 2 + carlito(20)},
+     .shift = {2.5, 0}},
+    {.name = "accessory_right",
+     .kind = SampleWindow::acessorio,
+     .dialog = u"FrmMargensOcultaZPL2"_s,
+     .field = u"txtmargem2"_s,
+     .stored = u"45"_s,
+     .changed = u"44"_s,
+     .setting = "Margem_oculta11=44",
+     .text = u"5201104"_s,
+     .baseline = {50.5, 13.8 + liberation(5)},
+     .shift = {-1, 0}},
+    {.name = "box_front_top",
+     .kind = SampleWindow::frente_de_caixa,
+     .dialog = u"FrmMargensCxZPL45"_s,
+     .field = u"txtmargemsuperior"_s,
+     .stored = u"3"_s,
+     .changed = u"4,25"_s,
+     .setting = "Mx4045=4,25",
+     .text = u"3104527001"_s,
+     .baseline = {2.3, 21 + liberation(7)},
+     .shift = {0, 1.25}},
+    {.name = "carton_left",
+     .kind = SampleWindow::corrugado,
+     .dialog = u"FrmMargensPackZPL"_s,
+     .field = u"txtmargem1"_s,
+     .stored = u"3"_s,
+     .changed = u"10"_s,
+     .setting = "PackX=10",
+     .text = u"3104527001"_s,
+     .baseline = {58, 29.7 + liberation(20)},
+     .shift = {7, 0}},
 };
-// clang-format on
 
-class DialogTest : public testing::TestWithParam<Calibration>, protected SampleWindow {
+class DialogWindowTest : public testing::TestWithParam<Calibration>, protected SampleWindow {
   protected:
-    DialogTest() { open(); }
+    DialogWindowTest() { open(); }
 
     void openDialog(const Calibration& calibration) {
         worker.turnTo(u"FrmPadrao"_s);
@@ -76,7 +109,7 @@ class DialogTest : public testing::TestWithParam<Calibration>, protected SampleW
     }
 };
 
-TEST_P(DialogTest, testsAMarginWithoutStoringItAndStoresItForTheNextJob) {
+TEST_P(DialogWindowTest, testsAMarginWithoutStoringItAndStoresItForTheNextJob) {
     const Calibration& calibration = GetParam();
     const QString print = u"cmd_printacessorio"_s;
     load(calibration.kind, "1400050831");
@@ -110,11 +143,11 @@ TEST_P(DialogTest, testsAMarginWithoutStoringItAndStoresItForTheNextJob) {
     EXPECT_LT(apart(writtenBy(print), calibration, calibration.shift), 0.1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Margins, DialogTest, testing::ValuesIn(calibrations),
+INSTANTIATE_TEST_SUITE_P(Margins, DialogWindowTest, testing::ValuesIn(calibrations),
                          [](const auto& calibration) { return calibration.param.name; });
 
-TEST_F(DialogTest, leadsToTheFirstBlankMarginAndDropsWhatIsNoNumber) {
-    load(3, "1400050831");
+TEST_F(DialogWindowTest, leadsToTheFirstBlankMarginAndDropsWhatIsNoNumber) {
+    load(oculta, "1400050831");
     openDialog(calibrations.front());
     EXPECT_EQ(worker.focused(), u"txtmargem1"_s);
     EXPECT_EQ(worker.widget<QLineEdit>(u"txtmargem1"_s).selectedText(), u"3"_s);
@@ -123,19 +156,19 @@ TEST_F(DialogTest, leadsToTheFirstBlankMarginAndDropsWhatIsNoNumber) {
     worker.type(u"txtmargemsuperior"_s, u" "_s);
     worker.press(Qt::Key_Backspace);
     worker.click(u"cmd_teste"_s);
-    EXPECT_EQ(worker.takeBoxes().at(0).text, u"Informe a Margem..."_s);
+    EXPECT_EQ(boxTexts(), QStringList{u"Informe a Margem..."_s});
     EXPECT_EQ(worker.focused(), u"txtmargemsuperior"_s);
     worker.click(u"cmd_exit"_s);
     EXPECT_FALSE(isOpen(calibrations.front().dialog));
 }
 
-TEST_F(DialogTest, keepsTheOrderFolderAndShowsStoredParametersOnce) {
+TEST_F(DialogWindowTest, keepsTheOrderFolderAndShowsStoredParametersOnce) {
     const QString path = u"TXTPATH"_s;
     const QString orders = folder.filePath(u"imagens"_s);
     worker.click(u"cmd_parametro"_s);
     worker.turnTo(u"FrmParametroImpressora"_s);
     worker.click(u"CMD_GETPATH"_s); // and cancel
-    EXPECT_EQ(worker.takeBoxes().at(0).text, u"O Local Selecionado é Inválido..."_s);
+    EXPECT_EQ(boxTexts(), QStringList{u"O Local Selecionado é Inválido..."_s});
     worker.willPick(orders);
     worker.click(u"CMD_GETPATH"_s);
     EXPECT_EQ(worker.text(path), orders);
@@ -148,9 +181,10 @@ TEST_F(DialogTest, keepsTheOrderFolderAndShowsStoredParametersOnce) {
     EXPECT_FALSE(isOpen(u"FrmParametroImpressora"_s));
     EXPECT_TRUE(settings().contains("Path=" + orders.toUtf8() + "\r\n"));
     worker.turnTo(u"FrmPadrao"_s);
-    load(3, "1400050831");
-    EXPECT_EQ(worker.takeBoxes().at(0).text,
-              u"O Pedido 1400050831, não foi localizado em "_s + orders);
+    load(oculta, "1400050831");
+    const QString not_found = u"O Pedido 1400050831, não foi localizado em "_s + orders;
+    // Searched by leaving the kind, by Enter, and by leaving the order number.
+    EXPECT_EQ(boxTexts(), QStringList(3, not_found));
     worker.click(u"cmd_parametro"_s);
     worker.turnTo(u"FrmParametroImpressora"_s);
     EXPECT_EQ(worker.text(path), QString());
