@@ -8,6 +8,7 @@
 #include <QPrinter>
 #include <QString>
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -25,6 +26,8 @@ class PrintJob {
     explicit PrintJob(const PrintTarget& target);
 
     [[nodiscard]] const PrintTarget& target() const { return target_; }
+    /// Pages that have been begun.
+    [[nodiscard]] std::size_t pageCount() const { return pages_.size(); }
     /// Dots to the inch.
     [[nodiscard]] int resolution() const { return printer_->resolution(); }
 
