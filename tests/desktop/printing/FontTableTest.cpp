@@ -41,46 +41,32 @@ TEST_P(FontChoiceTest, isTheFirstFamilyThatIsThere) {
     EXPECT_EQ(chooseFont(choice.face, choice.bold, choice.families).family, chosen);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    FontTable, FontChoiceTest,
-    testing::ValuesIn(std::vector<Choice>{
-        {.name = "a_stand_in_in_any_case_of_letters",
-         .face = u"calibri",
-         .bold = true,
-         .families = stand_ins,
-         .chosen = carlito},
-        {.name = "the_face_itself_first",
-         .face = u"Calibri",
-         .families = {carlito, u"Calibri"_s},
-         .chosen = u"Calibri"_s},
-        {.name = "the_toolkits_own_at_last", .face = u"Calibri", .families = {nanum_light}},
-        {.name = "franklin_medium",
-         .face = u"Franklin Gothic Medium",
-         .families = stand_ins,
-         .chosen = libre_medium},
-        {.name = "franklin_semilight",
-         .face = u"Franklin Gothic Semilight",
-         .families = stand_ins,
-         .chosen = libre_light},
-        {.name = "the_second_stand_in",
-         .face = u"Malgun Gothic Semilight",
-         .families = stand_ins,
-         .chosen = open_light},
-        {.name = "the_first_of_two_stand_ins",
-         .face = u"Malgun Gothic Semilight",
-         .families = {open_light, nanum_light},
-         .chosen = nanum_light},
-        {.name = "a_bold_family_of_its_own",
-         .face = u"Malgun Gothic Semilight",
-         .bold = true,
-         .families = {open_light, open_bold, nanum_light},
-         .chosen = open_bold},
-        {.name = "the_general_family",
-         .face = u"No Such Face",
-         .families = stand_ins,
-         .chosen = liberation},
-    }),
-    [](const auto& choice) { return choice.param.name; });
+// clang-format off
+static const std::vector<Choice> choices{
+    {.name = "a_stand_in_in_any_case_of_letters",
+     .face = u"calibri", .bold = true, .families = stand_ins, .chosen = carlito},
+    {.name = "the_face_itself_first",
+     .face = u"Calibri", .families = {carlito, u"Calibri"_s}, .chosen = u"Calibri"_s},
+    {.name = "the_toolkits_own_at_last", .face = u"Calibri", .families = {nanum_light}},
+    {.name = "franklin_medium",
+     .face = u"Franklin Gothic Medium", .families = stand_ins, .chosen = libre_medium},
+    {.name = "franklin_semilight",
+     .face = u"Franklin Gothic Semilight", .families = stand_ins, .chosen = libre_light},
+    {.name = "the_second_stand_in",
+     .face = u"Malgun Gothic Semilight", .families = stand_ins, .chosen = open_light},
+    {.name = "the_first_of_two_stand_ins",
+     .face = u"Malgun Gothic Semilight", .families = {open_light, nanum_light},
+     .chosen = nanum_light},
+    {.name = "a_bold_family_of_its_own",
+     .face = u"Malgun Gothic Semilight", .bold = true,
+     .families = {open_light, open_bold, nanum_light}, .chosen = open_bold},
+    {.name = "the_general_family",
+     .face = u"No Such Face", .families = stand_ins, .chosen = liberation},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(FontTable, FontChoiceTest, testing::ValuesIn(choices),
+                         [](const auto& choice) { return choice.param.name; });
 
 TEST(FontTable, offersTheFamiliesAndTheFacesThatATwinStandsInFor) {
     EXPECT_EQ(offeredFaces(stand_ins), stand_ins + QStringList{u"Calibri"_s});

@@ -187,31 +187,21 @@ TEST_P(PlacedTextTest, standsByItsCellAndIsAsWideAsItIsMeasured) {
     EXPECT_NEAR(drawn.origins.back().x(), placed.x + width(text), 0.02);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Faces, PlacedTextTest,
-    testing::ValuesIn(std::vector<PlacedText>{
-        {.name = "calibri", .face = u"Calibri", .ascent = 1950, .points = 10, .x = 3, .y = 4},
-        {.name = "calibri_bold",
-         .face = u"Calibri",
-         .bold = true,
-         .ascent = 1950,
-         .points = 21.9F,
-         .x = 9.5F,
-         .y = 12.25F},
-        {.name = "franklin_gothic",
-         .face = u"Franklin Gothic Medium",
-         .ascent = 1854,
-         .points = 6.1F,
-         .x = 100.1F,
-         .y = 30.7F},
-        {.name = "malgun_gothic",
-         .face = u"Malgun Gothic Semilight",
-         .ascent = 2189 * 0.974,
-         .points = 14,
-         .x = 2,
-         .y = 2},
-    }),
-    [](const auto& text) { return text.param.name; });
+// clang-format off
+static const std::vector<PlacedText> placed_texts{
+    {.name = "calibri",
+     .face = u"Calibri", .ascent = 1950, .points = 10, .x = 3, .y = 4},
+    {.name = "calibri_bold",
+     .face = u"Calibri", .bold = true, .ascent = 1950, .points = 21.9F, .x = 9.5F, .y = 12.25F},
+    {.name = "franklin_gothic",
+     .face = u"Franklin Gothic Medium", .ascent = 1854, .points = 6.1F, .x = 100.1F, .y = 30.7F},
+    {.name = "malgun_gothic",
+     .face = u"Malgun Gothic Semilight", .ascent = 2189 * 0.974, .points = 14, .x = 2, .y = 2},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(Faces, PlacedTextTest, testing::ValuesIn(placed_texts),
+                         [](const auto& text) { return text.param.name; });
 
 TEST_F(QtPrintSurfaceTest, countsInDotsOfTheDeviceWhereTheUnitIsAPixel) {
     constexpr float dots_to_millimetre = 1200 / 25.4F;
