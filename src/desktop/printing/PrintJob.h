@@ -42,12 +42,12 @@ class PrintJob {
     void write(const QString& path);
 
   private:
-    [[nodiscard]] bool start(const LabelPage& page, QPainter& painter);
+    [[nodiscard]] bool startPage(const LabelPage& page, QPainter& painter);
     void drawPages();
 
     PrintTarget target_;
     std::unique_ptr<QPrinter> printer_;
-    QPageSize own_page_; // of the printer
+    QPageSize own_page_size_; // of the printer
     std::vector<LabelPage> pages_;
     bool page_ended_ = true;
 };

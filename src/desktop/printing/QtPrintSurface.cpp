@@ -82,7 +82,7 @@ void QtPrintSurface::Print(TextView text) {
     if (text.empty()) {
         return;
     }
-    LabelPage& drawn = page();
+    LabelPage& drawn = drawnPage();
     const QPointF baseline(x_ * unitMillimetres(),
                            y_ * unitMillimetres() + font_->ascent(fontMillimetres()));
     drawn.marks.emplace_back(
@@ -97,7 +97,7 @@ void QtPrintSurface::Line(int flags, float x1, float y1, float x2, float y2, Pix
     if (flags != filled_box) {
         throw invalidCall(u"Chamada inválida: só há linhas em forma de caixa cheia.");
     }
-    LabelPage& drawn = page();
+    LabelPage& drawn = drawnPage();
     const QRectF box = place(x1, y1, x2 - x1, y2 - y1);
     drawn.marks.emplace_back(BoxMark{box.normalized(), colourOf(colour)});
 }
@@ -111,7 +111,7 @@ void QtPrintSurface::PaintPicture(const Picture& picture, float x, float y, floa
     if (crop.isEmpty() || !(width > 0) || !(height > 0)) {
         return;
     }
-    LabelPage& drawn = page();
+    LabelPage& drawn = drawnPage();
     picture_marks_.stamp(drawn, picture, crop, place(x, y, width, height));
 }
 
@@ -188,7 +188,7 @@ QRectF QtPrintSurface::place(float x, float y, float width, float height) const 
     return {x * scale, y * scale, width * scale, height * scale};
 }
 
-LabelPage& QtPrintSurface::page() {
+LabelPage& QtPrintSurface::drawnPage() {
     if (!job_) {
         job_.emplace(printers_->current());
     }

@@ -87,7 +87,7 @@ class QtPrintSurface final : public PrintSurface {
     [[nodiscard]] int resolution() const;
     [[nodiscard]] std::optional<QPageSize> pageSize() const;
     [[nodiscard]] QRectF place(float x, float y, float width, float height) const;
-    [[nodiscard]] LabelPage& page();
+    [[nodiscard]] LabelPage& drawnPage();
     [[nodiscard]] QString deliver(PrintJob& job) const;
 
     const QtPrinters* printers_;
