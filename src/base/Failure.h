@@ -58,7 +58,9 @@ class SkipObserver {
     explicit SkipObserver(Callback told);
     ~SkipObserver();
     SkipObserver(const SkipObserver&) = delete;
+    SkipObserver(SkipObserver&&) = delete;
     SkipObserver& operator=(const SkipObserver&) = delete;
+    SkipObserver& operator=(SkipObserver&&) = delete;
 
   private:
     Callback earlier_;

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <memory>
 
 namespace spdlog {
@@ -21,7 +22,9 @@ class Log {
     /// Goes on with the file of this path; creates it where it is missing.
     explicit Log(const QString& path);
     ~Log();
+    Log(const Log&) = delete;
     Log(Log&&) noexcept;
+    Log& operator=(const Log&) = delete;
     Log& operator=(Log&&) = delete;
 
     /// What happened in the ordinary way.
