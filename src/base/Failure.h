@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -44,14 +45,41 @@ class Failure : public std::exception {
 /// An index lies outside its list.
 [[nodiscard]] Failure subscriptOutOfRange();
 
-/// Skip mode: runs one step and passes over its failure in silence. Tells whether the step went
-/// through. Only a `Failure` is passed over; any other exception is a fault of the program.
+/// Hears of each failure that `skip` passes over, as long as it lives; the one that was there
+/// before hears of them again afterwards. Observers end in the reverse order of their beginning.
+///
+/// There is one place for an observer in the whole process, the only state of that kind: `skip`
+/// stands at a hundred places that know nothing but their step, and none of them should need to
+/// know who keeps a log. The library installs no observer, a program does.
+class SkipObserver {
+  public:
+    using Callback = std::function<void(const Failure&)>;
+
+    explicit SkipObserver(Callback told);
+    ~SkipObserver();
+    SkipObserver(const SkipObserver&) = delete;
+    SkipObserver(SkipObserver&&) = delete;
+    SkipObserver& operator=(const SkipObserver&) = delete;
+    SkipObserver& operator=(SkipObserver&&) = delete;
+
+  private:
+    Callback earlier_;
+};
+
+/// Tells the observer, if there is one, of a failure that is passed over. What the observer throws
+/// is dropped.
+void tellSkipObserver(const Failure& failure) noexcept;
+
+/// Skip mode: runs one step and passes over its failure; nobody but the observer is told. Tells
+/// whether the step went through. Only a `Failure` is passed over; any other exception is a fault
+/// of the program.
 template <typename Step>
 bool skip(Step&& step) {
     try {
         std::forward<Step>(step)();
         return true;
-    } catch (const Failure&) {
+    } catch (const Failure& failure) {
+        tellSkipObserver(failure);
         return false;
     }
 }

@@ -1,5 +1,6 @@
 #include "desktop/Desktop.h"
 
+#include "desktop/LogEntries.h"
 #include "desktop/machine/QtText.h"
 #include "desktop/windows/DialogTable.h"
 #include "desktop/windows/FieldTable.h"
@@ -12,10 +13,12 @@
 namespace etiquetas {
 
 Desktop::Desktop(const QString& folder)
-    : files_(folder), surface_(printers_, folder),
-      form_({printers_, surface_, messages_, pictures_, files_, focus_, pointer_, process_,
-             folders_, commands_}),
+    : log_(startedLog(folder)),
+      skipped_([this](const Failure& failure) { logSkipped(log_, failure); }), files_(folder),
+      surface_(printers_, folder), form_({printers_, surface_, logged_messages_, pictures_, files_,
+                                          focus_, pointer_, process_, folders_, commands_}),
       bridge_(focus_, [this](const QString& description) { endOnFailure(description); }) {
+    keepLog();
     bridgeWindows();
     messages_.standOver([this] { return windowUnderBoxes(); }, [this] { bridge_.pushAll(); });
     process_.onEnd([this] { end(0); });
@@ -24,7 +27,17 @@ Desktop::Desktop(const QString& folder)
         end(exit_code_.value_or(0));
     });
     window_.onResize([this] { bridge_.run([this] { FrmPadrao_resize(form_); }); });
-    surface_.onJobWritten([this](const QString& path) { tellOfJob(path); });
+    surface_.onJobEnded([this](const EndedJob& job) {
+        logJob(log_, job);
+        if (job.target.built_in) {
+            tellOfJob(job.file);
+        }
+    });
+}
+
+void Desktop::keepLog() {
+    logPrinters(log_, printers_);
+    files_.onRead([this](TextView path, std::size_t bytes) { logFileRead(log_, path, bytes); });
 }
 
 // None at the start, when the main window does not stand anywhere yet.
@@ -74,13 +87,17 @@ void Desktop::start() {
 void Desktop::end(int exit_code) {
     bridge_.stop();
     surface_.dropJob();
+    if (!exit_code_) {
+        logEnd(log_, exit_code);
+    }
     exit_code_ = exit_code;
     QCoreApplication::exit(exit_code);
 }
 
 void Desktop::endOnFailure(const QString& description) {
+    logFatal(log_, description);
     surface_.dropJob();
-    messages_.show(
+    logged_messages_.show(
         {.text = toText(description) + u"\n\nO programa será encerrado.", .symbol = Symbol::stop});
     end(1);
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "base/Failure.h"
+#include "desktop/LoggedMessageBoxes.h"
+#include "desktop/machine/Log.h"
 #include "desktop/machine/QtCommandStart.h"
 #include "desktop/machine/QtFiles.h"
 #include "desktop/machine/QtPictures.h"
@@ -25,7 +28,8 @@ namespace etiquetas {
 /// The desktop program: the Workbench on the machine that it runs on. A `QApplication` must exist.
 class Desktop {
   public:
-    /// Works in a folder, that of the program: settings, logos, photographs, written jobs.
+    /// Works in a folder, that of the program: settings, logos, photographs, written jobs, and the
+    /// log "etiquetas.log".
     explicit Desktop(const QString& folder);
 
     /// Runs the start-up and shows the window.
@@ -40,17 +44,21 @@ class Desktop {
     [[nodiscard]] std::optional<int> exitCode() const { return exit_code_; }
 
   private:
+    void keepLog();
     void bridgeWindows();
     [[nodiscard]] QWidget* windowUnderBoxes();
     void tellOfJob(const QString& path);
     void end(int exit_code);
     void endOnFailure(const QString& description);
 
+    Log log_;
+    SkipObserver skipped_;
     QtFiles files_;
     QtPictures pictures_;
     QtPrinters printers_;
     QtPrintSurface surface_;
     QtMessageBoxes messages_;
+    LoggedMessageBoxes logged_messages_{messages_, log_};
     QtFocus focus_;
     QtPointer pointer_;
     QtProcess process_;

@@ -50,16 +50,29 @@ std::vector<std::vector<PdfText>> pageTexts(const QString& pdf) {
     return pages;
 }
 
-double distanceTo(const std::vector<PdfText>& page, const QString& text, QPointF place) {
-    double nearest = 1000;
+double distance(QPointF one, QPointF other) {
+    const QPointF apart = one - other;
+    return std::max(std::abs(apart.x()), std::abs(apart.y()));
+}
+
+std::optional<QPointF> nearestTo(const std::vector<PdfText>& page, const QString& text,
+                                 QPointF place) {
+    std::optional<QPointF> nearest;
     for (const PdfText& line : page) {
         for (qsizetype at = line.text.indexOf(text); at >= 0;
              at = line.text.indexOf(text, at + 1)) {
-            const QPointF apart = line.origins[static_cast<std::size_t>(at)] - place;
-            nearest = std::min(nearest, std::max(std::abs(apart.x()), std::abs(apart.y())));
+            const QPointF origin = line.origins[static_cast<std::size_t>(at)];
+            if (!nearest || distance(origin, place) < distance(*nearest, place)) {
+                nearest = origin;
+            }
         }
     }
     return nearest;
+}
+
+double distanceTo(const std::vector<PdfText>& page, const QString& text, QPointF place) {
+    const auto nearest = nearestTo(page, text, place);
+    return nearest ? distance(*nearest, place) : 1000;
 }
 
 QImage renderedPage(const QString& pdf, int page, int resolution, Tones tones) {

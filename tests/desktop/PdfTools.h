@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace etiquetas::test {
@@ -26,8 +27,16 @@ QByteArray outputOf(const QString& command);
 /// Texts of each page in drawing order, read by MuPDF.
 [[nodiscard]] std::vector<std::vector<PdfText>> pageTexts(const QString& pdf);
 
+/// The first baseline origin of the occurrence of a text on a page that is nearest to a place, in
+/// millimetres; nothing where the page has not got the text.
+[[nodiscard]] std::optional<QPointF> nearestTo(const std::vector<PdfText>& page,
+                                               const QString& text, QPointF place);
+
+/// How far two places are apart in the worse direction.
+[[nodiscard]] double distance(QPointF one, QPointF other);
+
 /// How far the nearest occurrence of a text on a page is from a place of its first baseline origin,
-/// in the worse direction, millimetres.
+/// in the worse direction, millimetres; a metre where the page has not got the text.
 [[nodiscard]] double distanceTo(const std::vector<PdfText>& page, const QString& text,
                                 QPointF place);
 

@@ -68,6 +68,7 @@ std::string QtFiles::read(TextView path) const {
     if (file.error() != QFileDevice::NoError) {
         throw fileFailure(u"ler o arquivo", path);
     }
+    file_read_(path, bytes.size());
     return bytes;
 }
 

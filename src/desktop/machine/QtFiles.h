@@ -5,8 +5,11 @@
 
 #include <QString>
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace etiquetas {
@@ -14,8 +17,13 @@ namespace etiquetas {
 /// The file system by the toolkit. A fault is a `Failure` whose description names the file.
 class QtFiles final : public Files {
   public:
+    using FileRead = std::function<void(TextView path, std::size_t bytes)>;
+
     /// With the folder that holds the program.
     explicit QtFiles(const QString& program_folder);
+
+    /// What is called after each file that was read, with its path and its size.
+    void onRead(FileRead told) { file_read_ = std::move(told); }
 
     [[nodiscard]] Text programFolder() const override { return program_folder_; }
     [[nodiscard]] char16_t separator() const override;
@@ -33,6 +41,7 @@ class QtFiles final : public Files {
 
   private:
     Text program_folder_;
+    FileRead file_read_ = [](TextView, std::size_t) {};
 };
 
 } // namespace etiquetas

@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "desktop/machine/QtText.h"
+#include "desktop/machine/RasterImage.h"
 
 #include <QFontMetrics>
 #include <QGuiApplication>
@@ -9,13 +10,9 @@
 #include <QImageReader>
 #include <QPainter>
 
-#include <algorithm>
 #include <cmath>
-#include <cstddef>
 #include <cstdint>
-#include <iterator>
 #include <memory>
-#include <span>
 
 namespace etiquetas {
 
@@ -31,19 +28,6 @@ Failure invalidPicture(TextView path) {
 
 bool isTooLarge(const QSize& size) {
     return static_cast<std::int64_t>(size.width()) * size.height() > most_pixels;
-}
-
-Raster rasterOf(const QImage& image) {
-    const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
-    const auto width = static_cast<std::size_t>(rgb.width());
-    Raster raster{rgb.width(), rgb.height(), {}};
-    raster.pixels.reserve(width * static_cast<std::size_t>(rgb.height()));
-    for (int y = 0; y < rgb.height(); ++y) {
-        const std::span line(reinterpret_cast<const QRgb*>(rgb.constScanLine(y)), width);
-        std::transform(line.begin(), line.end(), std::back_inserter(raster.pixels),
-                       [](QRgb colour) { return colour & RGB_MASK; });
-    }
-    return raster;
 }
 
 QImage blankImage(int width, int height) {

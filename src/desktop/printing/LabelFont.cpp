@@ -60,7 +60,7 @@ double LabelFont::width(const QString& text, double size) const {
     return metrics_.horizontalAdvance(text) * scaleFor(size);
 }
 
-const LabelFont& LabelFonts::get(TextView face, bool bold) {
+const LabelFont& LabelFontCache::get(TextView face, bool bold) {
     const std::pair key{Text(face), bold};
     if (const auto known = fonts_.find(key); known != fonts_.end()) {
         return known->second;

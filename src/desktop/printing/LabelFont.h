@@ -43,10 +43,10 @@ class LabelFont {
 };
 
 /// The label fonts in use, each made once.
-class LabelFonts {
+class LabelFontCache {
   public:
     /// With the families that faces are chosen from.
-    explicit LabelFonts(QStringList families) : families_(std::move(families)) {}
+    explicit LabelFontCache(QStringList families) : families_(std::move(families)) {}
 
     /// The font for a face and weight. It stays where it is as long as this object lives.
     [[nodiscard]] const LabelFont& get(TextView face, bool bold);

@@ -1,5 +1,7 @@
 #include "desktop/printing/PictureMarks.h"
 
+#include "desktop/machine/RasterImage.h"
+
 #include <QColor>
 
 #include <algorithm>
@@ -68,17 +70,6 @@ void stampBands(LabelPage& page, const Raster& picture, const QRect& crop, const
     }
 }
 
-QImage colourImage(const Raster& picture, const QRect& crop) {
-    constexpr Pixel opaque = 0xFF000000;
-    QImage image(crop.size(), QImage::Format_RGB32);
-    for (int y = 0; y < crop.height(); ++y) {
-        const auto pixels = rowOf(picture, crop, crop.top() + y);
-        const std::span line(reinterpret_cast<QRgb*>(image.scanLine(y)), pixels.size());
-        std::ranges::transform(pixels, line.begin(), [](Pixel pixel) { return opaque | pixel; });
-    }
-    return image;
-}
-
 bool samePicture(const std::weak_ptr<const Raster>& kept, const Picture& picture) {
     return !kept.owner_before(picture) && !picture.owner_before(kept);
 }
@@ -108,12 +99,12 @@ void PictureMarks::stamp(LabelPage& page, const Picture& picture, const QRect& c
     if (isBlackAndWhite(*picture, crop)) {
         stampBands(page, *picture, crop, place);
     } else {
-        page.marks.emplace_back(ImageMark{place, imageOf(picture, crop)});
+        page.marks.emplace_back(ImageMark{place, keptImage(picture, crop)});
     }
 }
 
 // The same image is handed out for each stamp of a picture: it is then stored once in a job.
-QImage PictureMarks::imageOf(const Picture& picture, const QRect& crop) {
+QImage PictureMarks::keptImage(const Picture& picture, const QRect& crop) {
     std::erase_if(kept_, [](const Kept& kept) { return kept.picture.expired(); });
     const auto known = std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) {
         return samePicture(kept.picture, picture) && kept.crop == crop;
@@ -121,7 +112,7 @@ QImage PictureMarks::imageOf(const Picture& picture, const QRect& crop) {
     if (known != kept_.end()) {
         return known->image;
     }
-    return kept_.emplace_back(Kept{picture, crop, colourImage(*picture, crop)}).image;
+    return kept_.emplace_back(Kept{picture, crop, imageOf(*picture, crop)}).image;
 }
 
 } // namespace etiquetas

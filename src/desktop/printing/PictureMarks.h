@@ -29,7 +29,7 @@ class PictureMarks {
         QImage image;
     };
 
-    [[nodiscard]] QImage imageOf(const Picture& picture, const QRect& crop);
+    [[nodiscard]] QImage keptImage(const Picture& picture, const QRect& crop);
 
     std::vector<Kept> kept_;
 };

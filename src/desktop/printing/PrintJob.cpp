@@ -46,8 +46,8 @@ int resolutionOf(const PrintTarget& target) {
 }
 
 PrintJob::PrintJob(const PrintTarget& target)
-    : target_(target), printer_(makePrinter(target)), own_page_(printer_->pageLayout().pageSize()) {
-}
+    : target_(target), printer_(makePrinter(target)),
+      own_page_size_(printer_->pageLayout().pageSize()) {}
 
 LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
     if (page_ended_) {
@@ -67,15 +67,15 @@ void PrintJob::write(const QString& path) {
 }
 
 // Orientation stays portrait: a page wider than high is not turned then.
-bool PrintJob::start(const LabelPage& page, QPainter& painter) {
-    printer_->setPageSize(page.size.value_or(own_page_));
+bool PrintJob::startPage(const LabelPage& page, QPainter& painter) {
+    printer_->setPageSize(page.size.value_or(own_page_size_));
     return painter.isActive() ? printer_->newPage() : painter.begin(printer_.get());
 }
 
 void PrintJob::drawPages() {
     QPainter painter;
     for (const LabelPage& page : pages_) {
-        if (!start(page, painter)) {
+        if (!startPage(page, painter)) {
             throw printFailure(u"A impressora \"%1\" não aceita o trabalho."_s.arg(target_.name));
         }
         const double dots = printer_->resolution() / millimetres_per_inch;

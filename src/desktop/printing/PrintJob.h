@@ -8,6 +8,7 @@
 #include <QPrinter>
 #include <QString>
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -25,6 +26,8 @@ class PrintJob {
     explicit PrintJob(const PrintTarget& target);
 
     [[nodiscard]] const PrintTarget& target() const { return target_; }
+    /// Pages that have been begun.
+    [[nodiscard]] std::size_t pageCount() const { return pages_.size(); }
     /// Dots to the inch.
     [[nodiscard]] int resolution() const { return printer_->resolution(); }
 
@@ -39,12 +42,12 @@ class PrintJob {
     void write(const QString& path);
 
   private:
-    [[nodiscard]] bool start(const LabelPage& page, QPainter& painter);
+    [[nodiscard]] bool startPage(const LabelPage& page, QPainter& painter);
     void drawPages();
 
     PrintTarget target_;
     std::unique_ptr<QPrinter> printer_;
-    QPageSize own_page_; // of the printer
+    QPageSize own_page_size_; // of the printer
     std::vector<LabelPage> pages_;
     bool page_ended_ = true;
 };

@@ -68,13 +68,13 @@ void QtPrintSurface::PaperSize(int kind) {
 
 void QtPrintSurface::Width(int twips) {
     requirePositive(twips);
-    beginPageSize();
+    dropEarlierPageSize();
     width_ = twips;
 }
 
 void QtPrintSurface::Height(int twips) {
     requirePositive(twips);
-    beginPageSize();
+    dropEarlierPageSize();
     height_ = twips;
 }
 
@@ -82,21 +82,22 @@ void QtPrintSurface::Print(TextView text) {
     if (text.empty()) {
         return;
     }
-    LabelPage& drawn = page();
-    const QPointF baseline(x_ * unit(), y_ * unit() + font_->ascent(fontSize()));
+    LabelPage& drawn = drawnPage();
+    const QPointF baseline(x_ * unitMillimetres(),
+                           y_ * unitMillimetres() + font_->ascent(fontMillimetres()));
     drawn.marks.emplace_back(
-        TextMark{baseline, toQString(text), font_->font(), font_->scaleFor(fontSize())});
+        TextMark{baseline, toQString(text), font_->font(), font_->scaleFor(fontMillimetres())});
 }
 
 float QtPrintSurface::TextWidth(TextView text) const {
-    return static_cast<float>(font_->width(toQString(text), fontSize()) / unit());
+    return static_cast<float>(font_->width(toQString(text), fontMillimetres()) / unitMillimetres());
 }
 
 void QtPrintSurface::Line(int flags, float x1, float y1, float x2, float y2, Pixel colour) {
     if (flags != filled_box) {
         throw invalidCall(u"Chamada inválida: só há linhas em forma de caixa cheia.");
     }
-    LabelPage& drawn = page();
+    LabelPage& drawn = drawnPage();
     const QRectF box = place(x1, y1, x2 - x1, y2 - y1);
     drawn.marks.emplace_back(BoxMark{box.normalized(), colourOf(colour)});
 }
@@ -110,7 +111,7 @@ void QtPrintSurface::PaintPicture(const Picture& picture, float x, float y, floa
     if (crop.isEmpty() || !(width > 0) || !(height > 0)) {
         return;
     }
-    LabelPage& drawn = page();
+    LabelPage& drawn = drawnPage();
     picture_marks_.stamp(drawn, picture, crop, place(x, y, width, height));
 }
 
@@ -127,14 +128,11 @@ void QtPrintSurface::EndDoc() {
         return;
     }
     QGuiApplication::setOverrideCursor(Qt::WaitCursor); // a long job takes its time here
-    const auto ended = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-    if (!job->target().built_in) {
-        job->send();
-        return;
-    }
-    QString written; // nothing where it fails
-    const auto told = qScopeGuard([this, &written] { job_written_(written); });
-    written = writePdfFile(folder_, clock_(), [&job](const QString& path) { job->write(path); });
+    const auto restored = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
+    EndedJob ended{.target = job->target(), .pages = job->pageCount()};
+    const auto told = qScopeGuard([this, &ended] { job_ended_(ended); });
+    ended.file = deliver(*job);
+    ended.delivered = true;
 }
 
 std::size_t QtPrintSurface::FontCount() const {
@@ -149,7 +147,7 @@ Text QtPrintSurface::Fonts(std::size_t index) const {
 }
 
 // Forgets a size that was set before the current printer was selected.
-void QtPrintSurface::beginPageSize() {
+void QtPrintSurface::dropEarlierPageSize() {
     if (size_selection_ != printers_->selections()) {
         size_selection_ = printers_->selections();
         width_.reset();
@@ -157,13 +155,12 @@ void QtPrintSurface::beginPageSize() {
     }
 }
 
-// Millimetres.
-double QtPrintSurface::fontSize() const {
+double QtPrintSurface::fontMillimetres() const {
     return points_ * millimetres_per_point;
 }
 
-// Millimetres to one unit of the coordinates.
-double QtPrintSurface::unit() const {
+// Of one unit of the coordinates.
+double QtPrintSurface::unitMillimetres() const {
     return scale_mode_ == etiquetas::ScaleMode::pixels ? millimetres_per_inch / resolution() : 1.0;
 }
 
@@ -187,15 +184,24 @@ std::optional<QPageSize> QtPrintSurface::pageSize() const {
 }
 
 QRectF QtPrintSurface::place(float x, float y, float width, float height) const {
-    const double scale = unit();
+    const double scale = unitMillimetres();
     return {x * scale, y * scale, width * scale, height * scale};
 }
 
-LabelPage& QtPrintSurface::page() {
+LabelPage& QtPrintSurface::drawnPage() {
     if (!job_) {
         job_.emplace(printers_->current());
     }
     return job_->page(pageSize());
+}
+
+// Tells the file of the job, if it went into one.
+QString QtPrintSurface::deliver(PrintJob& job) const {
+    if (job.target().built_in) {
+        return writePdfFile(folder_, clock_(), [&job](const QString& path) { job.write(path); });
+    }
+    job.send();
+    return {};
 }
 
 } // namespace etiquetas

@@ -13,11 +13,21 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace etiquetas {
+
+/// A job that is over.
+struct EndedJob {
+    PrintTarget target;
+    std::size_t pages = 0;
+    QString file;           // that the built-in device wrote; empty where there is none
+    bool delivered = false; // to the print system or into the file
+};
 
 /// Draws labels on the machine's printers and on the built-in device, with the same code for all.
 /// Positions and widths stand in millimetres, and hold at every resolution; pages have whole
@@ -25,7 +35,7 @@ namespace etiquetas {
 class QtPrintSurface final : public PrintSurface {
   public:
     using Clock = std::function<QDateTime()>;
-    using JobWritten = std::function<void(const QString& path)>;
+    using JobEnded = std::function<void(const EndedJob& job)>;
     using PrintSurface::PaintPicture;
 
     /// Jobs begin on the current one of `printers`, which must outlive the surface. Those of the
@@ -33,9 +43,8 @@ class QtPrintSurface final : public PrintSurface {
     QtPrintSurface(const QtPrinters& printers, const QString& folder,
                    Clock clock = QDateTime::currentDateTime);
 
-    /// What is called behind each job of the built-in device: with the path of its file, or with
-    /// none where it could not be written.
-    void onJobWritten(JobWritten told) { job_written_ = std::move(told); }
+    /// What is called after each job, whether it was delivered or not.
+    void onJobEnded(JobEnded told) { job_ended_ = std::move(told); }
     /// Forgets the open job, if there is one: nothing of it is printed.
     void dropJob() { job_.reset(); }
 
@@ -72,20 +81,21 @@ class QtPrintSurface final : public PrintSurface {
 
   private:
     void selectFont() { font_ = &fonts_.get(face_, bold_); }
-    void beginPageSize();
-    [[nodiscard]] double fontSize() const;
-    [[nodiscard]] double unit() const;
+    void dropEarlierPageSize();
+    [[nodiscard]] double fontMillimetres() const;
+    [[nodiscard]] double unitMillimetres() const;
     [[nodiscard]] int resolution() const;
     [[nodiscard]] std::optional<QPageSize> pageSize() const;
     [[nodiscard]] QRectF place(float x, float y, float width, float height) const;
-    [[nodiscard]] LabelPage& page();
+    [[nodiscard]] LabelPage& drawnPage();
+    [[nodiscard]] QString deliver(PrintJob& job) const;
 
     const QtPrinters* printers_;
     QString folder_;
     Clock clock_;
-    JobWritten job_written_ = [](const QString&) {};
+    JobEnded job_ended_ = [](const EndedJob&) {};
 
-    LabelFonts fonts_;
+    LabelFontCache fonts_;
     QStringList faces_;
     PictureMarks picture_marks_;
     std::optional<PrintJob> job_;

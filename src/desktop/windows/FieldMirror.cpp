@@ -1,6 +1,7 @@
 #include "desktop/windows/FieldMirror.h"
 
 #include "desktop/machine/QtText.h"
+#include "desktop/machine/RasterImage.h"
 
 #include <QColor>
 #include <QComboBox>
@@ -124,12 +125,7 @@ void pushList(QComboBox& box, const ListField& field, std::vector<Text>& shown) 
 QPixmap pixmapOf(const Raster& raster, const QLabel& label) {
     const qreal dots = label.devicePixelRatioF();
     const QSize room = label.contentsRect().size() * dots;
-    QImage image(raster.width, raster.height, QImage::Format_RGB32);
-    for (int y = 0; y < raster.height; ++y) {
-        for (int x = 0; x < raster.width; ++x) {
-            image.setPixel(x, y, raster.at(x, y));
-        }
-    }
+    QImage image = imageOf(raster);
     const bool larger = image.width() > room.width() || image.height() > room.height();
     if (larger) {
         image = image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);

@@ -1,0 +1,75 @@
+#include "desktop/machine/QtFiles.h"
+
+#include "tests/desktop/Faults.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace etiquetas {
+
+using namespace Qt::StringLiterals;
+using namespace test;
+
+class QtFilesTest : public testing::Test {
+  protected:
+    QTemporaryDir folder;
+    QString name = folder.filePath(u"Ação.txt"_s);
+    Text path = toText(name);
+    QtFiles files{folder.path() + u'/'};
+};
+
+TEST_F(QtFilesTest, replacesAFileWhollyAndInItsPermissionsOrNotAtAll) {
+    files.replace(path, "");
+    EXPECT_EQ(files.read(path), "");
+    ASSERT_TRUE(QFile::setPermissions(name, QFile::ReadOwner | QFile::WriteOwner));
+    const std::string bytes("\0\r\n\x1A\n\xFF ", 7);
+    files.replace(path, bytes);
+    onFullDisk([this] { EXPECT_THROW(files.replace(path, std::string(9'999, 'x')), Failure); });
+    EXPECT_EQ(files.read(path), bytes);
+    EXPECT_FALSE(QFile::permissions(name).testFlag(QFile::ReadOther));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "a leftover";
+}
+
+TEST_F(QtFilesTest, tellsWhatIsThereAndTakesABlankNameForNoFolder) {
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder.path()));
+    EXPECT_THROW(files.makeFolder(u" "), Failure);
+    ASSERT_TRUE(QDir().mkdir(u" "_s));
+    files.makeFolder(u"dentro");
+    files.replace(u"a.txt", "a");
+    EXPECT_TRUE(files.fileExists(u"a.txt"));
+    EXPECT_FALSE(files.fileExists(u"dentro"));
+    EXPECT_TRUE(files.folderExists(u"dentro"));
+    EXPECT_FALSE(files.folderExists(u"a.txt"));
+    EXPECT_FALSE(files.folderExists(u" "));
+    EXPECT_TRUE(files.filesIn(u"").empty());
+    EXPECT_EQ(files.programFolder(), toText(folder.path()));
+    EXPECT_EQ(files.filesIn(files.programFolder()), std::vector<Text>{u"a.txt"});
+    files.deleteFile(u"a.txt");
+    EXPECT_FALSE(files.fileExists(u"a.txt"));
+    QDir::setCurrent(before);
+}
+
+TEST_F(QtFilesTest, namesTheFileOfAFailure) {
+    using failure_number::file_access;
+    for (const Text& file : {toText(folder.filePath(u"falta/a.txt"_s)), toText(folder.path())}) {
+        expectFailure(file_access, file, [&] { static_cast<void>(files.read(file)); });
+        expectFailure(file_access, file, [&] { files.deleteFile(file); });
+        expectFailure(file_access, file, [&] { files.replace(file, "a"); });
+        expectFailure(file_access, file, [&] { files.makeFolder(file); });
+    }
+}
+
+TEST_F(QtFilesTest, tellsOfEachFileThatWasRead) {
+    std::vector<Text> paths;
+    files.onRead([&paths](TextView read, std::size_t bytes) {
+        paths.emplace_back(read);
+        EXPECT_EQ(bytes, 3U);
+    });
+    files.replace(path, "abc");
+    EXPECT_EQ(files.read(path), "abc");
+    EXPECT_THROW(static_cast<void>(files.read(u"falta.txt")), Failure);
+    EXPECT_EQ(paths, std::vector{path});
+}
+
+} // namespace etiquetas
