@@ -7,6 +7,8 @@
 
 namespace etiquetas::test {
 
+namespace {
+
 struct AccessoryLabel {
     Text description = u"BOLSA TIRACOLO AZUL";
     TextView flag = u"L", price = u"129,90", promotion = u"P1", barcode = u"2044556677888";
@@ -21,11 +23,11 @@ class AcessorioTest : public testing::Test, protected Workbench {
         form.Margem_oculta1 = 6.8F;
         form.Margem_oculta11 = 46.5F;
         form.Margem_oculta2 = 2;
+        machine.printers.ScaleMode(ScaleMode::millimetres);
+        machine.forget();
     }
 
     void draw(const AccessoryLabel& label) {
-        machine.printers.ScaleMode(ScaleMode::millimetres);
-        machine.forget();
         Imprime_Acessorio_40_20_2(form, label.flag, label.description, u"XYZ", u" 3104527",
                                   label.barcode, u"9", label.price, label.quantity, u" FAIXA ",
                                   u" S/X ", label.promotion);
@@ -103,5 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
                     AccessoryBreak{"BlankIsDropped", u"X- B" + a51, u"X-", u"B" + a51},
                     AccessoryBreak{"BlankInFrontMovesTheCut", u" AB." + a51, u"AB.", u"." + a51}),
     [](const auto& row) { return row.param.name; });
+
+} // namespace
 
 } // namespace etiquetas::test

@@ -7,6 +7,8 @@
 
 namespace etiquetas::test {
 
+namespace {
+
 class CabecalhoTest : public testing::Test, protected Workbench {};
 
 TEST_F(CabecalhoTest, StripOfEachType) {
@@ -23,5 +25,7 @@ TEST_F(CabecalhoTest, StripOfEachType) {
     }
     EXPECT_TRUE(matchesGolden(machine.transcript, "cabecalho"));
 }
+
+} // namespace
 
 } // namespace etiquetas::test

@@ -8,9 +8,11 @@
 
 namespace etiquetas::test {
 
+namespace {
+
 struct CartonLabel {
     TextView code = u"2044556677", flag = u"B";
-    Text description = u"TENIS CASUAL";
+    Text description = u"TENIS CASUAL DE COURO LISO COM CADARCO E ZIPER"; // just fits
     std::int16_t first = 1, last = 1;
 };
 
@@ -84,86 +86,51 @@ TEST_F(CorrugadoTest, NoLabelForAnEmptyRange) {
     EXPECT_EQ(machine.transcript, Log{"unit millimetres"});
 }
 
-struct Shrinking {
-    std::string name;
-    float size_step; // of the surface, in points
-    std::size_t description_length, sizes_length;
-    std::string description_starts, sizes_start, pairs_start; // the lines, up to their texts
-};
-
-class CorrugadoShrinkTest : public CorrugadoTest, public testing::WithParamInterface<Shrinking> {};
-
-TEST_P(CorrugadoShrinkTest, WideTextsShrinkFromWhatTheSurfaceHolds) {
-    const auto line = [](const std::string& start, TextView text) {
-        return Log{start + inQuotes(text)};
-    };
-    const Text description(GetParam().description_length, u'A');
-    const Text sizes(GetParam().sizes_length, u'6'), pairs(20, u'4');
-    machine.printers.size_step = GetParam().size_step;
-    form.txtgrade1.text = sizes;
-    form.txtgrade2.text = pairs;
+// 48 characters are 90,9 mm wide at 13,25 points, the first held size that fits. 20 are 60 at 21,
+// where the own count of the size run is at 20,4.
+TEST_F(CorrugadoTest, WideTextsShrinkFromWhatTheSurfaceHolds) {
+    const Text description(48, u'A');
+    machine.printers.size_step = 0.25F;
+    form.txtgrade1.text = Text(20, u'6');
     draw({.description = description});
-    EXPECT_EQ(machine.told(inQuotes(description)),
-              line(GetParam().description_starts, description));
-    EXPECT_EQ(machine.told(inQuotes(sizes)), line(GetParam().sizes_start, sizes));
-    EXPECT_EQ(machine.told(inQuotes(pairs)), line(GetParam().pairs_start, pairs));
+    EXPECT_EQ(machine.told("text 6,2 78,4 "),
+              Log{"text 6,2 78,4 Franklin Gothic Medium 13,25 bold " + inQuotes(description)});
+    EXPECT_EQ(machine.told("666"),
+              Log{R"(text 10,41 118,0 Franklin Gothic Medium 20,5 bold "66666666666666666666")"});
 }
 
-// 46 characters are 92 mm wide at 14 points; 48 are 91,9 at 13,4, and 18 are 59,4 at 23,1. Where
-// the surface holds quarters, 48 are 90,9 at 13,25; 20 are 60 at 21, where the own count is at
-// 20,4.
-INSTANTIATE_TEST_SUITE_P(
-    , CorrugadoShrinkTest,
-    testing::Values(Shrinking{"Fits", 0, 46, 17, "text 6,2 78,4 Franklin Gothic Medium 14 bold ",
-                              "text 10,56 118,0 Franklin Gothic Medium 24 bold ",
-                              "text 5,41 127,0 Franklin Gothic Medium 24 bold "},
-                    Shrinking{"StepsOfThreeTenths", 0, 48, 18,
-                              "text 6,2 78,4 Franklin Gothic Medium 13,4 bold ",
-                              "text 10,0 118,0 Franklin Gothic Medium 23,1 bold ",
-                              "text 6,7 127,0 Franklin Gothic Medium 23,1 bold "},
-                    Shrinking{"SurfaceThatHoldsQuarters", 0.25F, 48, 20,
-                              "text 6,2 78,4 Franklin Gothic Medium 13,25 bold ",
-                              "text 10,41 118,0 Franklin Gothic Medium 20,5 bold ",
-                              "text 10,41 127,0 Franklin Gothic Medium 20,5 bold "}),
-    [](const auto& row) { return row.param.name; });
-
 TEST_F(CorrugadoTest, ShrinkingEndsWhereThereIsNoSmallerSize) {
-    machine.printers.size_step = 0.25F;
     const Text description(9999, u'A');
+    machine.printers.size_step = 0.25F;
     draw({.description = description});
-    EXPECT_EQ(machine.told(inQuotes(description)),
+    EXPECT_EQ(machine.told("text 6,2 78,4 "),
               Log{"text 6,2 78,4 Franklin Gothic Medium 0,25 bold " + inQuotes(description)});
 }
 
 struct Volume {
-    std::string name;
     TextView last_of_order;
     std::int16_t first, last;
     Log lines; // one a page
 };
 
-class CorrugadoVolumeTest : public CorrugadoTest, public testing::WithParamInterface<Volume> {};
-
-TEST_P(CorrugadoVolumeTest, NumberIsPaddedToTheLengthOfTheLastOne) {
-    form.lblmax.caption = GetParam().last_of_order;
-    draw({.description = u"TENIS", .first = GetParam().first, .last = GetParam().last});
-    EXPECT_EQ(machine.told("/"), GetParam().lines);
-    EXPECT_EQ(machine.told("page").size(), GetParam().lines.size());
+TEST_F(CorrugadoTest, VolumeIsPaddedToTheLengthOfTheLastOne) {
+    const std::string large = "text 34,7 140,0 Franklin Gothic Medium 16 bold ";
+    const std::string small = "text 29,9 141,7 Franklin Gothic Medium 12 bold ";
+    for (const auto& [last_of_order, first, last, lines] :
+         {Volume{u"3", 2, 3, {large + R"("2/3")", large + R"("3/3")"}},
+          Volume{u"12", 7, 7, {large + R"("07/12")"}},
+          Volume{u"120", 7, 7, {small + R"("007/120")"}},
+          Volume{u"1234", 7, 7, {small + R"("007/1234")"}},
+          Volume{u"9", 1000, 1000, {small + R"("1000/9")"}},
+          Volume{u"", 6, 7, {large + R"("6/7")", large + R"("7/7")"}},
+          Volume{u"12345", 7, 7, {large + R"("7/7")"}}}) {
+        form.lblmax.caption = last_of_order;
+        draw({.first = first, .last = last});
+        EXPECT_EQ(machine.told("/"), lines);
+        EXPECT_EQ(machine.told("page").size(), lines.size());
+    }
 }
 
-const std::string short_volume = "text 34,7 140,0 Franklin Gothic Medium 16 bold ";
-const std::string long_volume = "text 29,9 141,7 Franklin Gothic Medium 12 bold ";
-
-INSTANTIATE_TEST_SUITE_P(
-    , CorrugadoVolumeTest,
-    testing::Values(
-        Volume{"OneDigit", u"3", 2, 3, {short_volume + R"("2/3")", short_volume + R"("3/3")"}},
-        Volume{"TwoDigits", u"12", 7, 7, {short_volume + R"("07/12")"}},
-        Volume{"ThreeDigits", u"120", 7, 7, {long_volume + R"("007/120")"}},
-        Volume{"FourDigits", u"1234", 7, 7, {long_volume + R"("007/1234")"}},
-        Volume{"BeyondTheLastOne", u"9", 1000, 1000, {long_volume + R"("1000/9")"}},
-        Volume{"NoLastOne", u"", 6, 7, {short_volume + R"("6/7")", short_volume + R"("7/7")"}},
-        Volume{"FiveDigits", u"12345", 7, 7, {short_volume + R"("7/7")"}}),
-    [](const auto& row) { return row.param.name; });
+} // namespace
 
 } // namespace etiquetas::test

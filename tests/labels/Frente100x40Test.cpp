@@ -7,6 +7,8 @@
 
 namespace etiquetas::test {
 
+namespace {
+
 struct WideLabel {
     Text description = u"TENIS CASUAL DE COURO COM CADARCO";
     TextView flag = u"L", size = u"34 ", price = u"129,90", barcode = u"2044556677888";
@@ -58,33 +60,28 @@ TEST_F(Frente100x40Test, RefusedBarcodeEndsTheDrawingBeforeItsBars) {
 }
 
 struct WideBreak {
-    std::string name;
     Text description, line_1, line_2;
 };
 
-class Frente100x40BreakTest : public Frente100x40Test,
-                              public testing::WithParamInterface<WideBreak> {};
-
 // At 11 points 31 characters are 48,7 mm wide, and 32 are 50,3.
-TEST_P(Frente100x40BreakTest, LinesOfTheDescription) {
+TEST_F(Frente100x40Test, DescriptionIsBrokenAtTheLastBlank) {
+    const Text a28(28, u'A'), a29(29, u'A'), a31(31, u'A'), a32(32, u'A');
     const auto line = [](const std::string& place, TextView text) {
         return text.empty() ? Log{} : Log{"text 6,0 " + place + " Corpo 11 bold " + inQuotes(text)};
     };
-    draw({.description = GetParam().description});
-    EXPECT_EQ(machine.told("text 6,0 7,0 "), line("7,0", GetParam().line_1));
-    EXPECT_EQ(machine.told("text 6,0 12,0 "), line("12,0", GetParam().line_2));
+    for (const auto& [description, line_1, line_2] :
+         {WideBreak{u"A " + a29, u"A " + a29, u""}, WideBreak{a32, a32, u""},
+          WideBreak{a32 + u" 7", a32, u"7"}, WideBreak{u"A " + a29 + u" 7", u"A " + a29, u"7"},
+          WideBreak{u"A B " + a31 + u" C", u"A B", a31 + u" C"},
+          WideBreak{u"A-B/" + a31, u"A-B/" + a28, u"AAA"}}) {
+        SCOPED_TRACE(utf8(description));
+        machine.forget();
+        draw({.description = description});
+        EXPECT_EQ(machine.told("text 6,0 7,0 "), line("7,0", line_1));
+        EXPECT_EQ(machine.told("text 6,0 12,0 "), line("12,0", line_2));
+    }
 }
 
-const Text a28(28, u'A'), a29(29, u'A'), a31(31, u'A'), a32(32, u'A');
-
-INSTANTIATE_TEST_SUITE_P(
-    , Frente100x40BreakTest,
-    testing::Values(WideBreak{"Narrower", u"A " + a29, u"A " + a29, u""},
-                    WideBreak{"ReachesTheLimitAtItsEnd", a32, a32, u""},
-                    WideBreak{"BlankBeyondTheLimit", a32 + u" 7", a32, u"7"},
-                    WideBreak{"BlankAtTheLimit", u"A " + a29 + u" 7", u"A " + a29, u"7"},
-                    WideBreak{"LastBlank", u"A B " + a31 + u" C", u"A B", a31 + u" C"},
-                    WideBreak{"NoBlank", u"A-B/" + a31, u"A-B/" + a28, u"AAA"}),
-    [](const auto& row) { return row.param.name; });
+} // namespace
 
 } // namespace etiquetas::test

@@ -7,6 +7,8 @@
 
 namespace etiquetas::test {
 
+namespace {
+
 struct HiddenLabel {
     TextView size = u"34", flag = u"L", description = u"TENIS CASUAL";
     std::int16_t quantity = 1;
@@ -119,5 +121,7 @@ INSTANTIATE_TEST_SUITE_P(
         HiddenBreak{"NotBetweenDigits", u"ABCDEFGHIJKLMNOPQRSTUV78Y9-Z",
                     u"ABCDEFGHIJKLMNOPQRSTUV78Y", u"9-Z"}),
     [](const auto& row) { return row.param.name; });
+
+} // namespace
 
 } // namespace etiquetas::test

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "barcodes/Code39.h"
 #include "support/FakePlatform.h"
 #include "workbench/Impressao.h"
 #include "workbench/Pedido.h"
@@ -19,14 +18,20 @@ struct OrderLeft {
     std::size_t lines;
 
     friend bool operator==(const OrderLeft&, const OrderLeft&) = default;
-    friend std::ostream& operator<<(std::ostream& out, const OrderLeft& left) {
-        return out << left.items << " items, " << left.lines << " lines";
-    }
 };
 
-/// The window with both logos and a printer chosen, for order 77.
+/// The window with both logos and a printer chosen, for an order of two items of each family. The
+/// first box item has two sizes.
 struct PrintWorkbench : LoadedWorkbench {
     PrintWorkbench() {
+        takeOrder(u"FRENTE",
+                  {u"LUMIRA", lineOf({.quantity = u"1"}), lineOf({.quantity = u"1", .size = u"35"}),
+                   lineOf({.quantity = u"1", .colour = u"RUBRO"})});
+        takeOrder(u"ACESSORIO",
+                  {u"BRISA KO", accessoryLineOf({}), accessoryLineOf({.colour = u"RUBRO"})});
+        takeOrder(u"CORRUGADO",
+                  {u"LUMIRA", cartonLineOf({}),
+                   cartonLineOf({.master = u"M2", .description = u"BOTA", .volumes = u"8/9"})});
         takeLogos();
         knowEanBars(u"204455667788");
         form.CMBPRINTER.choose(1);
@@ -57,7 +62,7 @@ struct PrintWorkbench : LoadedWorkbench {
         cmd_printacessorio_click(form);
     }
 
-    /// Of the kinds that list their items in `cmb_referencia`.
+    /// The list of the kinds but cartons.
     [[nodiscard]] OrderLeft left() const {
         return {form.cmb_referencia.entries.size(), form.List1.entries.size()};
     }

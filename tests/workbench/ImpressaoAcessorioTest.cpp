@@ -5,6 +5,8 @@
 
 namespace etiquetas::test {
 
+namespace {
+
 // Two items, of which the second has neither price nor barcode: its line is too short.
 class ImpressaoAcessorioTest : public testing::Test, protected PrintWorkbench {
   protected:
@@ -50,39 +52,6 @@ TEST_F(ImpressaoAcessorioTest, NothingToPrint) {
     EXPECT_EQ(form.txtpreco.text, u"0,00");
 }
 
-struct AccessoryCheck {
-    std::string name;
-    TextView code, colour, description;
-    bool has_logos;
-    Log messages;
-};
-
-class ImpressaoAcessorioCheckTest : public ImpressaoAcessorioTest,
-                                    public testing::WithParamInterface<AccessoryCheck> {};
-
-TEST_P(ImpressaoAcessorioCheckTest, ComesInItsOrder) {
-    form.txtcodigo.text = GetParam().code;
-    form.txtcor.text = GetParam().colour;
-    form.txtdescricao.text = GetParam().description;
-    form.LogoBrisakoOk = GetParam().has_logos;
-    print();
-    EXPECT_EQ(machine.told("message "), GetParam().messages);
-}
-
-const std::string no_code = R"(message none ok "Código Inválido")";
-const std::string no_logo = R"(message stop ok "O Arquivo do Logotipo não foi localizado")";
-const std::string no_item = R"(message none ok "Selecione o Item que deseja Imprimir")";
-
-INSTANTIATE_TEST_SUITE_P(
-    , ImpressaoAcessorioCheckTest,
-    testing::Values(AccessoryCheck{"LogoFirst", u"3104527", u"AZUL", u" ", false, {no_logo}},
-                    AccessoryCheck{"NoItemGoesOnAndNoColourIsNotAsked",
-                                   u"3104527",
-                                   u" ",
-                                   u" ",
-                                   true,
-                                   {no_item, closing_question}},
-                    AccessoryCheck{"NoCode", u" ", u"AZUL", u"BOLSA", true, {no_code}}),
-    [](const auto& row) { return row.param.name; });
+} // namespace
 
 } // namespace etiquetas::test

@@ -1,3 +1,4 @@
+#include "barcodes/Code39.h"
 #include "support/Golden.h"
 #include "support/PrintWorkbench.h"
 
@@ -5,15 +6,12 @@
 
 namespace etiquetas::test {
 
+namespace {
+
 // Volumes 5 to 7, and a second item of volumes 8 and 9.
 class ImpressaoCorrugadoTest : public testing::Test, protected PrintWorkbench {
   protected:
-    ImpressaoCorrugadoTest() {
-        takeOrder(u"CORRUGADO",
-                  {u"LUMIRA", cartonLineOf({}),
-                   cartonLineOf({.master = u"M2", .description = u"BOTA", .volumes = u"8/9"})});
-        load(tipo::corrugado);
-    }
+    ImpressaoCorrugadoTest() { load(tipo::corrugado); }
 };
 
 TEST_F(ImpressaoCorrugadoTest, JobOfARangeOfVolumes) {
@@ -70,39 +68,6 @@ TEST_F(ImpressaoCorrugadoTest, NoVolumesAreAnEmptyJob) {
     EXPECT_EQ(form.PackY, 5);
 }
 
-struct CartonCheck {
-    std::string name;
-    TextView colour, description, code;
-    bool has_logos;
-    Answer answer;
-    Log messages;
-};
-
-class ImpressaoCorrugadoCheckTest : public ImpressaoCorrugadoTest,
-                                    public testing::WithParamInterface<CartonCheck> {};
-
-TEST_P(ImpressaoCorrugadoCheckTest, ComesInItsOrder) {
-    form.txtcor1.text = GetParam().colour;
-    form.txtdescricao1.text = GetParam().description;
-    form.txtcodigo1.text = GetParam().code;
-    form.LogoBrisakoOk = GetParam().has_logos;
-    print(GetParam().answer);
-    EXPECT_EQ(machine.told("message "), GetParam().messages);
-}
-
-const std::string no_colour =
-    R"(message question yes/no "O Item está sem COR!, Imprimir mesmo assim")";
-const std::string no_item = R"(message none ok "Selecione o Item que deseja Imprimir")";
-const std::string no_code = R"(message none ok "Código Inválido")";
-
-INSTANTIATE_TEST_SUITE_P(
-    , ImpressaoCorrugadoCheckTest,
-    testing::Values(
-        CartonCheck{"ColourRefused", u" ", u" ", u"M1", true, Answer::no, {no_colour}},
-        CartonCheck{"ColourThenItem", u" ", u" ", u" ", true, Answer::yes, {no_colour, no_item}},
-        CartonCheck{"NoCode", u"AZUL", u"BOTA", u" ", true, Answer::no, {no_code}},
-        CartonCheck{
-            "NoLogoIsNeeded", u"AZUL", u"BOTA", u"M1", false, Answer::no, {closing_question}}),
-    [](const auto& row) { return row.param.name; });
+} // namespace
 
 } // namespace etiquetas::test

@@ -5,6 +5,8 @@
 
 namespace etiquetas::test {
 
+namespace {
+
 // An item of three sizes, of which the second has no barcode, and a second item.
 class ImpressaoFrenteTest : public testing::Test, protected PrintWorkbench {
   protected:
@@ -73,43 +75,6 @@ TEST_F(ImpressaoFrenteTest, NothingToPrintOn100x40) {
     EXPECT_EQ(form.txtpreco.text, u"");
 }
 
-struct FrontCheck {
-    std::string name;
-    TextView kind, colour, description;
-    bool has_logos;
-    Answer answer;
-    Log messages;
-};
-
-class ImpressaoFrenteCheckTest : public ImpressaoFrenteTest,
-                                 public testing::WithParamInterface<FrontCheck> {};
-
-TEST_P(ImpressaoFrenteCheckTest, ComesInItsOrder) {
-    load(GetParam().kind);
-    form.txtcor.text = GetParam().colour;
-    form.txtdescricao.text = GetParam().description;
-    form.LogoBrisakoOk = GetParam().has_logos;
-    print(GetParam().answer);
-    EXPECT_EQ(machine.told("message "), GetParam().messages);
-}
-
-const std::string no_colour =
-    R"(message question yes/no "O Item está sem COR!, Imprimir mesmo assim")";
-const std::string no_logo = R"(message stop ok "O Arquivo do Logotipo não foi localizado")";
-const std::string no_item = R"(message none ok "Selecione o Item que deseja Imprimir")";
-
-constexpr TextView front = tipo::frente_de_caixa, wide = tipo::frente_de_caixa_100x40;
-
-INSTANTIATE_TEST_SUITE_P(
-    , ImpressaoFrenteCheckTest,
-    testing::Values(
-        FrontCheck{"ColourRefused", front, u" ", u"BOTA", false, Answer::no, {no_colour}},
-        FrontCheck{"ColourThenLogo", front, u" ", u" ", false, Answer::yes, {no_colour, no_logo}},
-        FrontCheck{
-            "NoItemGoesOn", front, u"AZUL", u" ", true, Answer::no, {no_item, closing_question}},
-        FrontCheck{"WideColourRefused", wide, u" ", u" ", true, Answer::no, {no_colour}},
-        FrontCheck{"WideItemBeforeLogo", wide, u"AZUL", u" ", false, Answer::no, {no_item}},
-        FrontCheck{"WideLogo", wide, u"AZUL", u"BOTA", false, Answer::no, {no_logo}}),
-    [](const auto& row) { return row.param.name; });
+} // namespace
 
 } // namespace etiquetas::test

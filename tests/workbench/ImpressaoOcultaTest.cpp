@@ -5,16 +5,12 @@
 
 namespace etiquetas::test {
 
+namespace {
+
 // An item of two sizes with a pair each.
 class ImpressaoOcultaTest : public testing::Test, protected PrintWorkbench {
   protected:
-    ImpressaoOcultaTest() { loadOrder(u"204455667788"); }
-
-    void loadOrder(const Text& first_barcode) {
-        takeOrder(u"FRENTE", {u"LUMIRA", lineOf({.quantity = u"1", .barcode = first_barcode}),
-                              lineOf({.quantity = u"1", .size = u"35"})});
-        load(tipo::oculta);
-    }
+    ImpressaoOcultaTest() { load(tipo::oculta); }
 
     // The item code stands once on each label, before its bars.
     [[nodiscard]] std::size_t labels() const { return machine.told("\"527\"").size(); }
@@ -22,7 +18,6 @@ class ImpressaoOcultaTest : public testing::Test, protected PrintWorkbench {
 
 TEST_F(ImpressaoOcultaTest, Job) {
     form.coluna_etiqueta = 2; // set to 1 for the job
-    form.marca_logo.clear();
     print();
     EXPECT_TRUE(matchesGolden(machine.transcript, "impressao-oculta"));
     EXPECT_EQ(form.marca_logo, u"L");
@@ -42,58 +37,29 @@ TEST_F(ImpressaoOcultaTest, JobWithAHeaderStripAndTheLastSlot) {
 
 // The pixels and the raised column stay until they are set again.
 TEST_F(ImpressaoOcultaTest, RefusedBarcodeEndsItsSizeOnly) {
-    loadOrder(u"20445566778");
+    form.List1.entries[0] = lineOf({.quantity = u"1", .barcode = u"20445566778"});
     print();
     EXPECT_TRUE(matchesGolden(machine.transcript, "impressao-oculta-recusada"));
 }
 
-struct HiddenCheck {
-    std::string name;
-    TextView colour, hidden_labels;
-    Answer answer;
-    Log messages;
-};
-
-class ImpressaoOcultaCheckTest : public ImpressaoOcultaTest,
-                                 public testing::WithParamInterface<HiddenCheck> {};
-
-TEST_P(ImpressaoOcultaCheckTest, ComesBeforeAnyDrawing) {
-    form.txtcor.text = GetParam().colour;
-    form.TXTOCULTAS.text = GetParam().hidden_labels;
-    print(GetParam().answer);
-    EXPECT_EQ(machine.transcript, GetParam().messages);
-}
-
-const std::string no_colour =
-    R"(message question yes/no "O Item está sem COR!, Imprimir mesmo assim")";
-const std::string no_hidden_labels =
-    R"(message exclamation ok "Quantidade de Etiquetas Ocultas - Inválida")";
-
-INSTANTIATE_TEST_SUITE_P(
-    , ImpressaoOcultaCheckTest,
-    testing::Values(HiddenCheck{"NoHiddenLabels", u"AZUL", u" ", Answer::yes, {no_hidden_labels}},
-                    HiddenCheck{"NoColour", u" ", u"4", Answer::no, {no_colour}},
-                    HiddenCheck{
-                        "ColourFirst", u"", u" ", Answer::yes, {no_colour, no_hidden_labels}}),
-    [](const auto& row) { return row.param.name; });
-
-TEST_F(ImpressaoOcultaTest, MarginsAreReadForTheJob) {
-    storeMargins("Margem_oculta1=2,5\r\nMargem_oculta11=50\r\nMargem_oculta2=-1");
-    print();
-    EXPECT_EQ(form.Margem_oculta1, 2.5F);
-    EXPECT_EQ(form.Margem_oculta11, 50);
-    EXPECT_EQ(form.Margem_oculta2, -1);
+TEST_F(ImpressaoOcultaTest, BlankCountOfLabelsEndsTheCommandAfterTheColour) {
+    form.txtcor.text = u"";
+    form.TXTOCULTAS.text = u" ";
+    print(Answer::yes);
+    EXPECT_EQ(machine.transcript,
+              (Log{R"(message question yes/no "O Item está sem COR!, Imprimir mesmo assim")",
+                   R"(message exclamation ok "Quantidade de Etiquetas Ocultas - Inválida")"}));
 }
 
 TEST_F(ImpressaoOcultaTest, MarginsThatAreNoNumbersStayAsTheyWere) {
-    form.Margem_oculta1 = 2.5F;
-    form.Margem_oculta11 = 50;
-    form.Margem_oculta2 = -1;
-    storeMargins("Margem_oculta1=x\r\nMargem_oculta11=  \r\nMx4045=9");
-    print();
-    EXPECT_EQ(form.Margem_oculta1, 2.5F);
-    EXPECT_EQ(form.Margem_oculta11, 50);
-    EXPECT_EQ(form.Margem_oculta2, -1);
+    for (const char* margins : {"Margem_oculta1=2,5\r\nMargem_oculta11=50\r\nMargem_oculta2=-1",
+                                "Margem_oculta1=x\r\nMargem_oculta11=  \r\nMx4045=9"}) {
+        storeMargins(margins);
+        print();
+        EXPECT_EQ(form.Margem_oculta1, 2.5F);
+        EXPECT_EQ(form.Margem_oculta11, 50);
+        EXPECT_EQ(form.Margem_oculta2, -1);
+    }
 }
 
 TEST_F(ImpressaoOcultaTest, SizeWithoutCodesLeavesTheJobOpen) {
@@ -105,7 +71,7 @@ TEST_F(ImpressaoOcultaTest, SizeWithoutCodesLeavesTheJobOpen) {
         EXPECT_EQ(machine.told("printer "), Log{"printer Etiquetas"});
         EXPECT_EQ(machine.transcript.back(),
                   R"(message none ok "Erro - 1012 - Código Master - Contate Suporte ")");
-        EXPECT_EQ(left(), (OrderLeft{.items = 1, .lines = 3}));
+        EXPECT_EQ(left(), (OrderLeft{.items = 2, .lines = 4}));
     }
 }
 
@@ -131,5 +97,7 @@ TEST_F(ImpressaoOcultaTest, QuantityThatCannotBePrintedEndsItsSizeOnly) {
         EXPECT_EQ(machine.transcript.back(), closing_question) << utf8(quantity);
     }
 }
+
+} // namespace
 
 } // namespace etiquetas::test
