@@ -65,15 +65,6 @@ TEST_F(OcultaTest, NoLabelForNoQuantity) {
     EXPECT_EQ(form.coluna_etiqueta, 1);
 }
 
-TEST_F(OcultaTest, SurfaceLeftInPixelsBreaksSooner) {
-    machine.printers.ScaleMode(ScaleMode::pixels); // as a refused barcode leaves it
-    draw({.description = u"7 AB"});
-    EXPECT_EQ(machine.told("text 5,8 5,4 "),
-              Log{R"(text 5,8 5,4 Franklin Gothic Medium 6 plain "7 AB")"});
-    EXPECT_EQ(machine.told("text 5,8 7,7 "),
-              Log{R"(text 5,8 7,7 Franklin Gothic Medium 6 plain "AZUL")"});
-}
-
 struct HiddenBreak {
     std::string name;
     TextView description, line_1, line_2;

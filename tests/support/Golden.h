@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -31,33 +29,52 @@ inline std::vector<GoldenLine> goldenLines(const std::string& path) {
     return lines;
 }
 
-/// How lines differ from those of a golden file, line by line; empty where they don't. What both
-/// begin and end with is left aside, so that a line too many or too few shows alone.
-inline std::string differences(const std::vector<GoldenLine>& expected,
-                               const std::vector<std::string>& drawn) {
-    const auto same = [](const GoldenLine& line, const std::string& text) {
-        return line.text == text;
-    };
-    const auto [first, first_drawn] =
-        std::mismatch(expected.begin(), expected.end(), drawn.begin(), drawn.end(), same);
-    const auto [end, end_drawn] =
-        std::mismatch(expected.rbegin(), std::make_reverse_iterator(first), drawn.rbegin(),
-                      std::make_reverse_iterator(first_drawn), same);
-    std::ostringstream report;
-    auto line = first;
-    auto text = first_drawn;
-    for (; line != end.base() && text != end_drawn.base(); ++line, ++text) {
-        if (!same(*line, *text)) {
-            report << "line " << line->number << ": expected " << line->text << '\n'
-                   << "line " << line->number << ": drawn    " << *text << '\n';
+/// A place in the golden file and one among the lines drawn, both counted from 0.
+struct Places {
+    std::size_t expected;
+    std::size_t drawn;
+};
+
+/// The nearest places, from these on, where both have the same line; both ends where there are
+/// none.
+inline Places nextAgreement(const std::vector<GoldenLine>& expected,
+                            const std::vector<std::string>& drawn, const Places& from) {
+    const std::size_t farthest = expected.size() + drawn.size() - from.expected - from.drawn;
+    for (std::size_t distance = 0; distance < farthest; ++distance) {
+        for (std::size_t missing = 0; missing <= distance; ++missing) {
+            const Places at{from.expected + missing, from.drawn + distance - missing};
+            if (at.expected < expected.size() && at.drawn < drawn.size() &&
+                expected[at.expected].text == drawn[at.drawn]) {
+                return at;
+            }
         }
     }
-    for (; line != end.base(); ++line) {
-        report << "line " << line->number << ": missing  " << line->text << '\n';
-    }
-    for (; text != end_drawn.base(); ++text) {
-        const std::size_t before = line == expected.begin() ? 0 : std::prev(line)->number;
-        report << "after line " << before << ": extra " << *text << '\n';
+    return {expected.size(), drawn.size()};
+}
+
+/// How lines differ from those of a golden file, line by line; empty where they don't.
+inline std::string differences(const std::vector<GoldenLine>& expected,
+                               const std::vector<std::string>& drawn) {
+    std::ostringstream report;
+    std::size_t last_number = 0;
+    Places at{};
+    while (at.expected < expected.size() || at.drawn < drawn.size()) {
+        const Places next = nextAgreement(expected, drawn, at);
+        for (; at.expected < next.expected; ++at.expected) {
+            const GoldenLine& line = expected[at.expected];
+            const bool is_changed = at.drawn < next.drawn;
+            report << "line " << line.number << (is_changed ? ": expected " : ": missing  ")
+                   << line.text << '\n';
+            if (is_changed) {
+                report << "line " << line.number << ": drawn    " << drawn[at.drawn++] << '\n';
+            }
+            last_number = line.number;
+        }
+        for (; at.drawn < next.drawn; ++at.drawn) {
+            report << "after line " << last_number << ": extra " << drawn[at.drawn] << '\n';
+        }
+        last_number = next.expected < expected.size() ? expected[next.expected].number : 0;
+        at = {next.expected + 1, next.drawn + 1};
     }
     return report.str();
 }

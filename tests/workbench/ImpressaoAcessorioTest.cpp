@@ -41,17 +41,6 @@ TEST_F(ImpressaoAcessorioTest, LabelOfTheNextItemEndsAtItsBarcode) {
     EXPECT_EQ(machine.printers.unit, "pixels");
 }
 
-TEST_F(ImpressaoAcessorioTest, NothingToPrint) {
-    form.TXTPARES.text = u"0";
-    form.txtpreco.text = u" ";
-    form.NomeFonte = u"Corpo";
-    print();
-    EXPECT_EQ(machine.transcript,
-              (Log{"printer Etiquetas", "unit millimetres", "paper 256", "page width 9000 twips",
-                   "page height 1200 twips", "end of job", "printer Papel", closing_question}));
-    EXPECT_EQ(form.txtpreco.text, u"0,00");
-}
-
 } // namespace
 
 } // namespace etiquetas::test

@@ -126,13 +126,11 @@ TEST_P(ImpressaoUnsoundItemTest, LoadThatFailsIsPassedOver) {
     EXPECT_EQ((carton ? form.txtcodigo1 : form.txtcodigo).text, GetParam().code);
 }
 
-// Quantities beyond 16 bits, and a volume that is no number.
+// A quantity beyond 16 bits, and a volume that is no number.
 INSTANTIATE_TEST_SUITE_P(
     , ImpressaoUnsoundItemTest,
     testing::Values(UnsoundItem{"Box", tipo::frente_de_caixa, u"3104527 | TENIS CASUAL | RUBRO",
                                 lineOf({.quantity = u"40000", .colour = u"RUBRO"}), u"3104527"},
-                    UnsoundItem{"Accessory", tipo::acessorio, u"3104527 | BOLSA | RUBRO",
-                                u"40000;RUBRO;34;BOLSA;S;B;204455667788;3104527;;;", u"3104527"},
                     UnsoundItem{
                         "Carton", tipo::corrugado, u"20 | BOTA | AZUL",
                         cartonLineOf({.master = u"M2", .description = u"BOTA", .volumes = u"8/x"}),
