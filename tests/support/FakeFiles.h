@@ -1,0 +1,78 @@
+#pragma once
+
+#include "platform/Files.h"
+#include "platform/Pictures.h"
+#include "support/Journal.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace etiquetas::test {
+
+/// A picture as rows of "#" and blanks.
+using Rows = std::vector<std::string>;
+
+inline Rows rowsOf(const Picture& picture) {
+    Rows rows(static_cast<std::size_t>(picture->height));
+    for (std::size_t i = 0; i < picture->pixels.size(); ++i) {
+        rows[i / static_cast<std::size_t>(picture->width)] +=
+            picture->pixels[i] == black_pixel ? '#' : ' ';
+    }
+    return rows;
+}
+
+/// Files in memory, with names that are exact in their case, and the pictures in them: a file that
+/// begins with "JPEG" is one. Letters are black boxes of 6 by 10 pixels.
+struct FakeFiles final : Files, Pictures, Fake {
+    using Fake::Fake;
+
+    std::map<Text, std::string, std::less<>> bytes;
+    std::function<void()> on_write = [] {};
+
+    Text programFolder() const override { return u"/programa"; }
+    char16_t separator() const override { return u'/'; }
+    bool fileExists(TextView path) const override { return bytes.contains(path); }
+    bool folderExists(TextView path) const override { return !filesIn(path).empty(); }
+    std::vector<Text> filesIn(TextView folder) const override {
+        std::vector<Text> names;
+        for (const auto& [path, content] : bytes) {
+            if (path.starts_with(folder) && path.rfind(u'/') == folder.size()) {
+                names.push_back(path.substr(folder.size() + 1));
+            }
+        }
+        return names;
+    }
+    std::string read(TextView path) const override {
+        const bool readable = fileExists(path) && !journal.failing.contains("read");
+        return readable ? bytes.find(path)->second : throw refusal();
+    }
+    void makeFolder(TextView path) override { journal.note("folder", utf8(path)); }
+    void deleteFile(TextView path) override {
+        journal.note("delete", utf8(path));
+        bytes.erase(Text(path));
+    }
+    void replace(TextView path, std::string_view content) override {
+        journal.note("write", utf8(path));
+        bytes[Text(path)] = content;
+        on_write();
+    }
+
+    Picture load(TextView path) override {
+        journal.note("load", utf8(path));
+        return read(path).starts_with("JPEG") ? std::make_shared<const Raster>() : throw refusal();
+    }
+    Raster text(TextView text) override {
+        constexpr int letter_width = 6;
+        constexpr int letter_height = 10;
+        journal.note("letters", utf8(text));
+        const int width = letter_width * static_cast<int>(text.size());
+        const int pixels = width * letter_height;
+        return {width, letter_height,
+                std::vector<Pixel>(static_cast<std::size_t>(pixels), black_pixel)};
+    }
+};
+
+} // namespace etiquetas::test

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "base/Failure.h"
+#include "base/Text.h"
+
+#include <filesystem>
+#include <iomanip>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace etiquetas::test {
+
+inline std::string utf8(TextView text) {
+    return std::filesystem::path(text).string();
+}
+
+inline Failure refusal() {
+    return {failure_number::file_access, u"fake", u"refused"};
+}
+
+/// What happened on the fakes, in order: one line each, a word and what it concerns, in UTF-8.
+using Log = std::vector<std::string>;
+
+/// Keeps the log of all fakes, and refuses the steps whose words are among the failing ones.
+struct Journal {
+    Log log;
+    std::set<std::string> failing;
+
+    /// What came to the printers and to the operator, in the words of the golden files.
+    Log transcript;
+
+    /// Logs a step, or refuses it. Five digits, so that what binary fractions leave behind does not
+    /// show.
+    template <typename... Parts>
+    void note(const std::string& word, const Parts&... parts) {
+        if (failing.contains(word)) {
+            throw refusal();
+        }
+        log.push_back(lineOfWords(word, parts...));
+    }
+
+    /// Adds a line to the transcript, with blanks between its words.
+    template <typename... Parts>
+    void tell(const std::string& word, const Parts&... parts) {
+        transcript.push_back(lineOfWords(word, parts...));
+    }
+
+    /// The lines that begin with one of these words.
+    [[nodiscard]] Log logged(const std::set<std::string>& words) const {
+        Log lines = log;
+        std::erase_if(lines, [&](const std::string& line) {
+            return !words.contains(line.substr(0, line.find(' ')));
+        });
+        return lines;
+    }
+
+    /// The lines of the transcript that hold a piece.
+    [[nodiscard]] Log told(const std::string& piece) const {
+        Log lines = transcript;
+        std::erase_if(
+            lines, [&](const std::string& line) { return line.find(piece) == std::string::npos; });
+        return lines;
+    }
+
+    void forget() {
+        log.clear();
+        transcript.clear();
+    }
+
+  private:
+    template <typename... Parts>
+    static std::string lineOfWords(const std::string& word, const Parts&... parts) {
+        std::ostringstream line;
+        line << std::setprecision(5) << word;
+        ((line << ' ' << parts), ...);
+        return line.str();
+    }
+};
+
+/// What each fake has: the journal that it shares with the others.
+struct Fake {
+    explicit Fake(Journal& shared) : journal(shared) {}
+
+    Journal& journal;
+};
+
+/// A text as the transcript has it.
+inline std::string inQuotes(TextView text) {
+    return '"' + utf8(text) + '"';
+}
+
+} // namespace etiquetas::test

@@ -1,0 +1,142 @@
+#include "support/PrintWorkbench.h"
+
+#include <gtest/gtest.h>
+
+namespace etiquetas::test {
+
+namespace {
+
+class ImpressaoTest : public testing::Test, protected PrintWorkbench {
+  protected:
+    ImpressaoTest() { load(tipo::oculta); }
+};
+
+TEST_F(ImpressaoTest, ClosesTheMarginDialogs) {
+    form.FrmMargensOcultaZPL2.open = true;
+    form.FrmMargensCxZPL45.open = true;
+    form.FrmMargensPackZPL.open = true;
+    print();
+    EXPECT_FALSE(form.FrmMargensOcultaZPL2.open);
+    EXPECT_FALSE(form.FrmMargensCxZPL45.open);
+    EXPECT_FALSE(form.FrmMargensPackZPL.open);
+}
+
+TEST_F(ImpressaoTest, NextItemOnYes) {
+    print(Answer::yes);
+    EXPECT_EQ(left(), (OrderLeft{.items = 1, .lines = 2}));
+    // Of the lines the one at the item's position has gone.
+    EXPECT_EQ(form.List1.text, lineOf({.quantity = u"1", .size = u"35"}));
+    EXPECT_EQ(form.cmb_referencia.text, u"3104527 | TENIS CASUAL | RUBRO");
+    EXPECT_EQ(form.txtcor.text, u"RUBRO");
+    EXPECT_EQ(form.txtnumero[0].text, u"1");
+    EXPECT_EQ(form.txtnumero[1].text, u"");
+}
+
+TEST_F(ImpressaoTest, FieldsAreEmptyAfterTheLastItemButForSlotsAndPromotion) {
+    print(Answer::yes);
+    print(Answer::yes);
+    EXPECT_EQ(left(), (OrderLeft{.items = 0, .lines = 1}));
+    for (const TextField* field : {&form.txtcodigo, &form.txtcor, &form.txtsemana,
+                                   &form.txtbandeira, &form.txtpreco, &form.txtdescricao}) {
+        EXPECT_EQ(field->text, u"") << utf8(field->caption);
+    }
+    EXPECT_EQ(form.txtnumero[0].text, u"1");
+    EXPECT_EQ(form.txtpromocao.text, u"OFERTA");
+}
+
+TEST_F(ImpressaoTest, ItemStaysOnNo) {
+    print(Answer::no);
+    EXPECT_EQ(form.txtcodigo.text, u"3104527");
+    EXPECT_EQ(left(), (OrderLeft{.items = 2, .lines = 3}));
+}
+
+TEST_F(ImpressaoTest, NoItemLeavesTheListWhereNoneIsChosen) {
+    form.cmb_referencia.type(u"3104527 | TENIS CASUAL | AZUL");
+    print(Answer::yes);
+    EXPECT_EQ(form.txtcodigo.text, u"");
+    EXPECT_EQ(left(), (OrderLeft{.items = 2, .lines = 3}));
+}
+
+TEST_F(ImpressaoTest, FirstItemFollowsTheSecond) {
+    form.cmb_referencia.choose(1);
+    print(Answer::yes);
+    EXPECT_EQ(form.cmb_referencia.text, u"3104527 | TENIS CASUAL | AZUL");
+    EXPECT_EQ(form.List1.entries,
+              (std::vector<Text>{lineOf({.quantity = u"1"}),
+                                 lineOf({.quantity = u"1", .colour = u"RUBRO"})}));
+}
+
+TEST_F(ImpressaoTest, UnknownKindIsOnlyAskedAbout) {
+    form.cmbtipo.type(u"Outro");
+    print();
+    EXPECT_EQ(machine.transcript, Log{closing_question});
+}
+
+TEST_F(ImpressaoTest, CartonsAreOnTheirPanelAndTheKindDecidesWhichItemIsNext) {
+    load(tipo::corrugado);
+    form.cmbtipo.type(Text(tipo::oculta));
+    print(Answer::yes);
+    EXPECT_EQ(machine.told("Volume:").size(), 3U);
+    EXPECT_EQ(form.cmb_referencia1.entries.size(), 2U);
+    EXPECT_EQ(form.cmb_referencia.entries.size(), 1U);
+}
+
+TEST_F(ImpressaoTest, KindOfCartonsOnTheOtherPanelPrintsNothing) {
+    load(tipo::corrugado);
+    load(tipo::oculta);
+    form.cmbtipo.type(Text(tipo::corrugado));
+    print(Answer::yes);
+    EXPECT_EQ(machine.transcript, Log{closing_question});
+    EXPECT_EQ(form.cmb_referencia1.entries.size(), 1U);
+    EXPECT_EQ(form.cmb_referencia.entries.size(), 2U);
+}
+
+TEST_F(ImpressaoTest, NoItemIsLoadedUnderTheCaptionOfCartons) {
+    form.Frame1.caption = tipo::corrugado;
+    print(Answer::yes);
+    EXPECT_EQ(form.cmb_referencia.text, u"3104527 | TENIS CASUAL | RUBRO");
+    EXPECT_EQ(form.txtcor.text, u"");
+}
+
+struct UnsoundItem {
+    std::string name;
+    TextView kind;
+    Text key, line, code;
+};
+
+class ImpressaoUnsoundItemTest : public testing::TestWithParam<UnsoundItem>,
+                                 protected PrintWorkbench {
+  protected:
+    ImpressaoUnsoundItemTest() { load(GetParam().kind); }
+
+    const bool carton = GetParam().kind == tipo::corrugado;
+    ListField& items = carton ? form.cmb_referencia1 : form.cmb_referencia;
+};
+
+TEST_P(ImpressaoUnsoundItemTest, MissingLineIsPassedOver) {
+    form.List1.clear();
+    EXPECT_EQ(failureOf([&] { print(Answer::yes); }), 0);
+    EXPECT_EQ(items.entries.size(), 1U);
+}
+
+TEST_P(ImpressaoUnsoundItemTest, LoadThatFailsIsPassedOver) {
+    items.entries[1] = GetParam().key;
+    form.List1.entries = {u"", GetParam().line};
+    EXPECT_EQ(failureOf([&] { print(Answer::yes); }), 0);
+    EXPECT_EQ((carton ? form.txtcodigo1 : form.txtcodigo).text, GetParam().code);
+}
+
+// A quantity beyond 16 bits, and a volume that is no number.
+INSTANTIATE_TEST_SUITE_P(
+    , ImpressaoUnsoundItemTest,
+    testing::Values(UnsoundItem{"Box", tipo::frente_de_caixa, u"3104527 | TENIS CASUAL | RUBRO",
+                                lineOf({.quantity = u"40000", .colour = u"RUBRO"}), u"3104527"},
+                    UnsoundItem{
+                        "Carton", tipo::corrugado, u"20 | BOTA | AZUL",
+                        cartonLineOf({.master = u"M2", .description = u"BOTA", .volumes = u"8/x"}),
+                        u"M2"}),
+    [](const auto& row) { return row.param.name; });
+
+} // namespace
+
+} // namespace etiquetas::test
