@@ -51,7 +51,7 @@ clang-format --dry-run --Werror "${files[@]}"
 
 echo "== clang-tidy: preparing what is generated"
 cmake --preset check --log-level=WARNING > /dev/null
-mapfile -t generated < <(ninja -C build/check -t targets all | sed -nE 's/^([A-Za-z_]+_autogen): .*/\1/p')
+mapfile -t generated < <(ninja -C build/check -t targets all | sed -nE 's#^(([a-z_]+_autogen)|([a-z/]*ui_[A-Za-z]+\.h)): .*#\1#p')
 ninja -C build/check "${generated[@]}" > /dev/null
 
 mapfile -t sources < <(sources_of "${files[@]}")
