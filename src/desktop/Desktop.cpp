@@ -58,17 +58,17 @@ void Desktop::tellOfJob(const QString& path) {
 void Desktop::bridgeWindows() {
     bridge_.run([this] {
         bridge_.add(fieldTable(form_, window_));
-        const auto addDialog = [this](DialogWindow& window, BridgedWindow table, bool& open) {
+        const auto add_dialog = [this](DialogWindow& window, BridgedWindow table, bool& open) {
             bridge_.add(std::move(table));
             window.onClose([this, &open] { bridge_.run([&open] { open = false; }); });
         };
-        const auto addMargins = [&](DialogWindow& window, MargensDialog& dialog) {
-            addDialog(window, marginTable(form_, dialog, window, window_), dialog.open);
+        const auto add_margins = [&](DialogWindow& window, MargensDialog& dialog) {
+            add_dialog(window, marginTable(form_, dialog, window, window_), dialog.open);
         };
-        addMargins(oculta_margins_, form_.FrmMargensOcultaZPL2);
-        addMargins(caixa_margins_, form_.FrmMargensCxZPL45);
-        addMargins(pack_margins_, form_.FrmMargensPackZPL);
-        addDialog(parameters_, parameterTable(form_, parameters_, window_),
+        add_margins(oculta_margins_, form_.FrmMargensOcultaZPL2);
+        add_margins(caixa_margins_, form_.FrmMargensCxZPL45);
+        add_margins(pack_margins_, form_.FrmMargensPackZPL);
+        add_dialog(parameters_, parameterTable(form_, parameters_, window_),
                   form_.FrmParametroImpressora.open);
     });
 }

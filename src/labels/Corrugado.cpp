@@ -87,13 +87,13 @@ float sizeRunPoints(FrmPadrao& form) {
 void drawSizeRun(FrmPadrao& form, const LabelTexts& /*label*/, const Point& origin) {
     PrintSurface& surface = form.platform.surface;
     const float points = sizeRunPoints(form);
-    const auto printCentred = [&](const Point& offset, TextView row) {
+    const auto print_centred = [&](const Point& offset, TextView row) {
         surface.FontSize(points);
         const Point centre = at(origin, offset);
         printAt(surface, {centre.x - surface.TextWidth(row) / 2.0F, centre.y}, row);
     };
-    printCentred({35.0F, 108.0F}, form.txtgrade1.text);
-    printCentred({35.0F, 117.0F}, form.txtgrade2.text);
+    print_centred({35.0F, 108.0F}, form.txtgrade1.text);
+    print_centred({35.0F, 117.0F}, form.txtgrade2.text);
 }
 
 constexpr LogoStamp logo_of_either{{{3.0F, 6.5F}, 70.0F, 17.0F}, 300.0F};
