@@ -22,10 +22,7 @@ Desktop::Desktop(const QString& folder)
     bridgeWindows();
     messages_.standOver([this] { return windowUnderBoxes(); }, [this] { bridge_.pushAll(); });
     process_.onEnd([this] { end(0); });
-    window_.onClose([this] {
-        bridge_.run([this] { FrmPadrao_unload(form_); });
-        end(exit_code_.value_or(0));
-    });
+    window_.onClose([this] { return close(); });
     window_.onResize([this] { bridge_.run([this] { FrmPadrao_resize(form_); }); });
     surface_.onJobEnded([this](const EndedJob& job) {
         logJob(log_, job);
@@ -69,12 +66,23 @@ void Desktop::bridgeWindows() {
         add_margins(caixa_margins_, form_.FrmMargensCxZPL45);
         add_margins(pack_margins_, form_.FrmMargensPackZPL);
         add_dialog(parameters_, parameterTable(form_, parameters_, window_),
-                  form_.FrmParametroImpressora.open);
+                   form_.FrmParametroImpressora.open);
     });
 }
 
 std::vector<DialogWindow*> Desktop::dialogs() {
     return {&oculta_margins_, &caixa_margins_, &pack_margins_, &parameters_};
+}
+
+// While an event runs, at a message box say, the close box waits for its end.
+bool Desktop::close() {
+    if (bridge_.isRunning()) {
+        bridge_.doAfterwards([this] { window_.close(); });
+        return false;
+    }
+    bridge_.run([this] { FrmPadrao_unload(form_); });
+    end(exit_code_.value_or(0));
+    return true;
 }
 
 void Desktop::start() {

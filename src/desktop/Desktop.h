@@ -48,6 +48,7 @@ class Desktop {
     void bridgeWindows();
     [[nodiscard]] QWidget* windowUnderBoxes();
     void tellOfJob(const QString& path);
+    bool close();
     void end(int exit_code);
     void endOnFailure(const QString& description);
 

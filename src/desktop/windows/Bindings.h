@@ -26,6 +26,7 @@ struct Handlers {
     void (*leave)(Told&...) = nullptr;
     void (*dblclick)(Told&...) = nullptr;
     void (*click)(Told&...) = nullptr;
+    bool click_waits = false;
 };
 
 /// A member of a form, the name of its widget, and its handlers.
@@ -51,7 +52,8 @@ template <typename... Told>
                        .key = {},
                        .leave = event(on.leave),
                        .dblclick = event(on.dblclick),
-                       .click = event(on.click)};
+                       .click = event(on.click),
+                       .click_waits = on.click_waits};
     if (on.key != nullptr) {
         events.key = [key = on.key, &told...](KeyCode code) { return key(told..., code); };
     }

@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QShortcutEvent>
 #include <QTimer>
 
 #include <limits>
@@ -64,6 +65,24 @@ KeyCode characterOf(const QKeyEvent& event) {
         return key::none;
     }
     return event.text().size() == 1 ? event.text().front().unicode() : key::none;
+}
+
+// True for what an operator does: keys, composed texts, the mouse and mnemonics.
+bool isOfOperator(const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+        return true;
+    default:
+        return false;
+    }
 }
 
 // A click on a label also reaches the panel around it, but is no click on the panel.
@@ -119,14 +138,19 @@ void EventBridge::watch(FieldRow& row) {
 }
 
 void EventBridge::run(const std::function<void()>& handler) {
-    if (stopped_) {
+    if (stopped_ || running_) {
         return;
     }
-    // While a handler shows a message box, another event finds the fields ahead of the windows.
-    if (!running_) {
-        pullAll();
+    runAlone(handler);
+    if (afterwards_) {
+        // The event that the handler belongs to comes to its end first.
+        QTimer::singleShot(0, this, std::exchange(afterwards_, {}));
     }
+}
+
+void EventBridge::runAlone(const std::function<void()>& handler) {
     const QScopedValueRollback<bool> guard(running_, true);
+    pullAll();
     try {
         handler();
     } catch (const Failure& failure) {
@@ -200,27 +224,40 @@ void EventBridge::giveFocusTo(const TextField& field) {
 
 bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
     const Place place = delivering_ || stopped_ ? Place{} : placeOf(watched);
-    FieldRow* const row = place.row;
-    if (row == nullptr) {
+    if (place.row == nullptr) {
         return false;
     }
-    switch (event->type()) {
+    return running_ ? isOfOperator(*event) : handleEvent(place, *watched, *event);
+}
+
+// True when the widget must not see the event any more.
+bool EventBridge::handleEvent(const Place& place, const QObject& watched, QEvent& event) {
+    FieldRow* const row = place.row;
+    switch (event.type()) {
     case QEvent::KeyPress:
         settleFocus();
-        return handleKey(place, *static_cast<QKeyEvent*>(event));
+        return handleKey(place, static_cast<QKeyEvent&>(event));
+    case QEvent::Shortcut:
+        // At once: the toolkit would press the command a tenth of a second later, and a key that
+        // comes meanwhile would overtake it.
+        if (!row->on.click || static_cast<QShortcutEvent&>(event).isAmbiguous()) {
+            return false;
+        }
+        press(*row);
+        return true;
     case QEvent::MouseButtonPress:
         // The arrow of a list opens it with what leaving the field before has loaded, unless that
         // hides the list. Elsewhere the entering event comes after the click, and what it selects
         // stays selected.
-        if (qobject_cast<QComboBox*>(watched) != nullptr) {
+        if (qobject_cast<const QComboBox*>(&watched) != nullptr) {
             settleFocus();
         }
         return row->widget->isHidden();
     case QEvent::InputMethod:
         settleFocus();
-        return handleComposed(*row, *static_cast<QInputMethodEvent*>(event));
+        return handleComposed(*row, static_cast<QInputMethodEvent&>(event));
     case QEvent::MouseButtonDblClick:
-        if (row->on.dblclick && isOn(*row->widget, *static_cast<QMouseEvent*>(event))) {
+        if (row->on.dblclick && isOn(*row->widget, static_cast<QMouseEvent&>(event))) {
             settleFocus();
             run(row->on.dblclick);
         }
@@ -269,6 +306,12 @@ void EventBridge::moveFocus() {
 // However a command was pressed, it takes the focus first, so that the field that the operator was
 // in gets its leaving event before. That event may hide the command.
 void EventBridge::press(FieldRow& row) {
+    if (running_) {
+        if (row.on.click_waits) {
+            doAfterwards([this, &row] { press(row); });
+        }
+        return;
+    }
     row.widget->setFocus();
     settleFocus();
     if (!row.widget->isHidden()) {

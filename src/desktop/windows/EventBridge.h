@@ -33,6 +33,9 @@ struct BridgedWindow {
 /// Before a handler runs, the fields take what the operator typed; after it, the windows show what
 /// they hold. A change of focus becomes one leaving and one entering event, which run before the
 /// next key or command and never twice, whatever message box a leaving event shows.
+///
+/// One event at a time: a handler that shows a message box lets the toolkit go on, and what comes
+/// meanwhile by key, mouse or timer is dropped, in all windows. Only what ends the program waits.
 class EventBridge final : public QObject {
     Q_OBJECT
 
@@ -46,8 +49,12 @@ class EventBridge final : public QObject {
     /// Takes a window over, the main window first. It must outlive the bridge.
     void add(BridgedWindow window);
 
-    /// Runs a handler as an event of the program.
+    /// Runs a handler as an event of the program; while another one runs it is dropped.
     void run(const std::function<void()>& handler);
+    /// True while a handler runs, be it that a message box of it waits for its answer.
+    [[nodiscard]] bool isRunning() const { return running_; }
+    /// Keeps a deed until the handler that runs has ended; the last one kept counts.
+    void doAfterwards(std::function<void()> deed) { afterwards_ = std::move(deed); }
     /// Shows what the fields hold.
     void pushAll();
     /// The window that is active, or was so last: another program's window and a message box don't
@@ -67,10 +74,12 @@ class EventBridge final : public QObject {
 
     void watch(FieldRow& row);
     void pullAll();
+    void runAlone(const std::function<void()>& handler);
     [[nodiscard]] Place placeOf(const QObject* widget);
     [[nodiscard]] QWidget* focusedWidget();
     void giveFocusTo(const TextField& field);
 
+    bool handleEvent(const Place& place, const QObject& watched, QEvent& event);
     void settleFocus();
     void moveFocus();
     void press(FieldRow& row);
@@ -86,6 +95,7 @@ class EventBridge final : public QObject {
     std::deque<BridgedWindow> windows_; // which stay where they are
     BridgedWindow* current_ = nullptr;  // the one that was active last
     FieldRow* active_ = nullptr;        // the field that has had its entering event
+    std::function<void()> afterwards_;  // what waits for the handler that runs
     bool running_ = false;
     bool delivering_ = false;
     bool stopped_ = false;

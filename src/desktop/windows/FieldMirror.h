@@ -22,6 +22,8 @@ struct FieldEvents {
     std::function<void()> leave;
     std::function<void()> dblclick;
     std::function<void()> click;
+    /// A click that comes while another event runs waits for its end, in place of being dropped.
+    bool click_waits = false;
 };
 
 /// A widget beside its field: how each takes over from the other, and what the events run.

@@ -66,7 +66,7 @@ constexpr Binding<FrmPadrao, FrmPadrao> bindings[] = {
     {"cmd_printacessorio", &FrmPadrao::cmd_printacessorio, {.click = cmd_printacessorio_click}},
     {"cmd_calibra", &FrmPadrao::cmd_calibra, {.click = cmd_calibra_click}},
     {"cmd_parametro", &FrmPadrao::cmd_parametro, {.click = cmd_parametro_click}},
-    {"cmd_sair", &FrmPadrao::cmd_sair, {.click = cmd_sair_click}},
+    {"cmd_sair", &FrmPadrao::cmd_sair, {.click = cmd_sair_click, .click_waits = true}},
 };
 
 void addSlots(WindowBinder& binder, FrmPadrao& form) {

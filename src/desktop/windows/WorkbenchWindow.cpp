@@ -2,6 +2,7 @@
 
 #include "ui_WorkbenchWindow.h"
 
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QFont>
 #include <QSizePolicy>
@@ -56,8 +57,7 @@ void WorkbenchWindow::tell(const QString& status, const QString& tooltip) {
 }
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event) {
-    closed_();
-    QMainWindow::closeEvent(event);
+    event->setAccepted(closed_());
 }
 
 void WorkbenchWindow::resizeEvent(QResizeEvent* event) {

@@ -16,8 +16,8 @@ class WorkbenchWindow final : public QMainWindow {
 
     /// Shows a line at the foot of the window until the next one; the tool tip tells more.
     void tell(const QString& status, const QString& tooltip);
-    /// What runs when the window is closed.
-    void onClose(std::function<void()> closed) { closed_ = std::move(closed); }
+    /// What runs when the window is to be closed; tells whether it closes.
+    void onClose(std::function<bool()> closed) { closed_ = std::move(closed); }
     /// What runs when the window gets another size.
     void onResize(std::function<void()> resized) { resized_ = std::move(resized); }
 
@@ -26,7 +26,7 @@ class WorkbenchWindow final : public QMainWindow {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    std::function<void()> closed_ = [] {};
+    std::function<bool()> closed_ = [] { return true; };
     std::function<void()> resized_ = [] {};
 };
 
