@@ -28,54 +28,55 @@ inline void tellList(Journal& journal, const std::string& name, const ListField&
     }
 }
 
-/// Tells the size slots that are filled or shown, sizes before quantities.
-inline void tellSlots(Journal& journal, const FrmPadrao& form) {
-    for (std::size_t i = 0; i < total_slots; ++i) {
-        const Label& size = form.Label7[i];
-        tellField(journal, "Label7 " + std::to_string(i), size.caption,
-                  size.visible ? " shown" : "");
-    }
-    for (std::size_t i = 0; i < total_slots; ++i) {
-        const TextField& quantity = form.txtnumero[i];
-        tellField(journal, "txtnumero " + std::to_string(i), quantity.text,
-                  quantity.visible ? " shown" : "");
-    }
-}
-
-/// Tells the totals and the size slots of an item.
+/// Tells the totals of an item, and the size slots that are filled or shown.
 inline void tellQuantities(Journal& journal, const FrmPadrao& form) {
     tellField(journal, "TXTPARES", form.TXTPARES);
     tellField(journal, "TXTOCULTAS", form.TXTOCULTAS);
-    tellSlots(journal, form);
+    for (std::size_t i = 0; i < total_slots; ++i) {
+        const std::string slot = " " + std::to_string(i);
+        const Label& size = form.Label7[i];
+        const TextField& quantity = form.txtnumero[i];
+        tellField(journal, "Label7" + slot, size.caption, size.visible ? " shown" : "");
+        tellField(journal, "txtnumero" + slot, quantity.text, quantity.visible ? " shown" : "");
+    }
 }
+
+/// A text field of the Workbench and its name.
+struct NamedField {
+    const char* name;
+    TextField FrmPadrao::*field;
+};
+
+// clang-format off
+constexpr NamedField item_fields[] = {
+    {"txtcodigo", &FrmPadrao::txtcodigo}, {"txtcor", &FrmPadrao::txtcor},
+    {"txtdescricao", &FrmPadrao::txtdescricao}, {"txtpreco", &FrmPadrao::txtpreco},
+    {"txtsemana", &FrmPadrao::txtsemana}, {"txtbandeira", &FrmPadrao::txtbandeira},
+    {"txtpromocao", &FrmPadrao::txtpromocao}};
+
+constexpr NamedField pack_fields[] = {
+    {"txtqte1", &FrmPadrao::txtqte1}, {"txtcodigo1", &FrmPadrao::txtcodigo1},
+    {"txtfornecedor1", &FrmPadrao::txtfornecedor1}, {"txtcor1", &FrmPadrao::txtcor1},
+    {"txtdescricao1", &FrmPadrao::txtdescricao1}, {"txtprepack", &FrmPadrao::txtprepack},
+    {"txtgrade1", &FrmPadrao::txtgrade1}, {"txtgrade2", &FrmPadrao::txtgrade2},
+    {"txttotgrade", &FrmPadrao::txttotgrade}, {"txtsemana1", &FrmPadrao::txtsemana1},
+    {"txtdestino1", &FrmPadrao::txtdestino1}, {"txtvolume", &FrmPadrao::txtvolume},
+    {"txtean", &FrmPadrao::txtean}};
+// clang-format on
 
 /// Tells the fields of a box or accessory item.
 inline void tellItem(Journal& journal, const FrmPadrao& form) {
-    tellField(journal, "txtcodigo", form.txtcodigo);
-    tellField(journal, "txtcor", form.txtcor);
-    tellField(journal, "txtdescricao", form.txtdescricao);
-    tellField(journal, "txtpreco", form.txtpreco);
-    tellField(journal, "txtsemana", form.txtsemana);
-    tellField(journal, "txtbandeira", form.txtbandeira);
-    tellField(journal, "txtpromocao", form.txtpromocao);
+    for (const NamedField& field : item_fields) {
+        tellField(journal, field.name, form.*field.field);
+    }
     tellQuantities(journal, form);
 }
 
 /// Tells the fields of a pack of cartons.
 inline void tellPack(Journal& journal, const FrmPadrao& form) {
-    tellField(journal, "txtqte1", form.txtqte1);
-    tellField(journal, "txtcodigo1", form.txtcodigo1);
-    tellField(journal, "txtfornecedor1", form.txtfornecedor1);
-    tellField(journal, "txtcor1", form.txtcor1);
-    tellField(journal, "txtdescricao1", form.txtdescricao1);
-    tellField(journal, "txtprepack", form.txtprepack);
-    tellField(journal, "txtgrade1", form.txtgrade1);
-    tellField(journal, "txtgrade2", form.txtgrade2);
-    tellField(journal, "txttotgrade", form.txttotgrade);
-    tellField(journal, "txtsemana1", form.txtsemana1);
-    tellField(journal, "txtdestino1", form.txtdestino1);
-    tellField(journal, "txtvolume", form.txtvolume);
-    tellField(journal, "txtean", form.txtean);
+    for (const NamedField& field : pack_fields) {
+        tellField(journal, field.name, form.*field.field);
+    }
     tellField(journal, "lblean", form.lblean.caption, form.lblean.visible ? "" : " hidden");
 }
 

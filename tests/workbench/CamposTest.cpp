@@ -41,24 +41,21 @@ TEST_F(CamposTest, FieldWithTheFocusIsYellowAndSelected) {
     }
 }
 
-TEST_F(CamposTest, TextsAreTypedInUpperCase) {
-    for (const KeyEvent event : {txtarquivo_key, txtcliente_key, txtcor_key}) {
-        for (const KeyCode key : {u'0', u'9', key::select_all, key::backspace, u'-', u','}) {
-            EXPECT_EQ(event(form, key), key);
-        }
-        EXPECT_EQ(event(form, u'a'), u'A');
-        EXPECT_EQ(event(form, u'ç'), u'Ç');
-    }
-}
-
-TEST_F(CamposTest, QuantitiesTakeDigitsOnly) {
+TEST_F(CamposTest, TextsAreTypedInUpperCaseAndQuantitiesInDigits) {
+    struct TypedKey {
+        KeyCode typed, of_text, of_quantity;
+    };
     const KeyEvent slot_key = [](FrmPadrao& f, KeyCode key) { return txtnumero_key(f, 13, key); };
-    for (const KeyEvent event : {TXTOCULTAS_key, txtlote_key, slot_key}) {
-        for (const KeyCode key : {u'0', u'9', key::select_all, key::backspace}) {
-            EXPECT_EQ(event(form, key), key);
+    for (const TypedKey& key : {TypedKey{u'0', u'0', u'0'}, TypedKey{u'9', u'9', u'9'},
+                                TypedKey{key::select_all, key::select_all, key::select_all},
+                                TypedKey{key::backspace, key::backspace, key::backspace},
+                                TypedKey{u'-', u'-', key::none}, TypedKey{u',', u',', key::none},
+                                TypedKey{u'a', u'A', key::none}, TypedKey{u'ç', u'Ç', key::none}}) {
+        for (const KeyEvent event : {txtarquivo_key, txtcliente_key, txtcor_key}) {
+            EXPECT_EQ(event(form, key.typed), key.of_text);
         }
-        for (const KeyCode key : {u'-', u',', u'a', u'ç'}) {
-            EXPECT_EQ(event(form, key), key::none);
+        for (const KeyEvent event : {TXTOCULTAS_key, txtlote_key, slot_key}) {
+            EXPECT_EQ(event(form, key.typed), key.of_quantity);
         }
     }
 }

@@ -62,7 +62,7 @@ static void startAndTell(Journal& journal, const std::string& what, Workbench& w
     tellField(journal, "lbloculta", form.lbloculta.caption);
     tellField(journal, "lblcompartilhamento", form.lblcompartilhamento.caption);
     tellList(journal, "cmbtipo", form.cmbtipo);
-    tellSlots(journal, form);
+    tellQuantities(journal, form);
 }
 
 TEST_F(InicioTest, SavedFieldsAreTaken) {
