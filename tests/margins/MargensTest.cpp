@@ -39,28 +39,11 @@ class MargensTest : public testing::Test, protected PrintWorkbench {
         dialog.txtmargemsuperior.text = margins.txtmargemsuperior;
     }
 
-    void tellMargins(const MargensDialog& dialog) {
+    void tellMargins(const std::string& what, const MargensDialog& dialog) {
+        machine.tell("--", what);
         tellField(machine, "txtmargem1", dialog.txtmargem1);
         tellField(machine, "txtmargem2", dialog.txtmargem2);
         tellField(machine, "txtmargemsuperior", dialog.txtmargemsuperior);
-    }
-
-    void loadAndTell(MargensDialog& dialog) {
-        margens_load(form, dialog);
-        machine.tell("-- loaded");
-        tellMargins(dialog);
-    }
-
-    void storeAndTell(MargensDialog& dialog, const MarginTexts& margins) {
-        type(dialog, margins);
-        dialog.open = true;
-        cmd_gravar_click(form, dialog);
-        EXPECT_FALSE(dialog.open);
-        machine.tell("-- stored");
-        tellMargins(dialog);
-        for (const std::string& line : programLines(machine.files.bytes[settings_file])) {
-            machine.tell(line);
-        }
     }
 
     void test(MargensDialog& dialog, const MarginTexts& margins) {
@@ -79,10 +62,18 @@ TEST_F(MargensTest, MarginsAreStoredAsTypedAndDefaultsWhereTheyAreBlank) {
     for (MargensDialog* const dialog : {&oculta, &caixa, &pack}) {
         machine.files.bytes.erase(settings_file);
         machine.tell("==", utf8(dialog->Caption));
-        loadAndTell(*dialog);
-        storeAndTell(*dialog, {u"1,2,3", u"-4,5", u"6"});
-        loadAndTell(*dialog);
-        storeAndTell(*dialog, {u" ", u"", u" "});
+        for (const MarginTexts& typed :
+             {MarginTexts{u"1,2,3", u"-4,5", u"6"}, MarginTexts{u" ", u"", u" "}}) {
+            margens_load(form, *dialog);
+            tellMargins("loaded", *dialog);
+            type(*dialog, typed);
+            dialog->open = true;
+            cmd_gravar_click(form, *dialog);
+            tellMargins(dialog->open ? "open" : "closed", *dialog);
+            for (const std::string& line : programLines(machine.files.bytes[settings_file])) {
+                machine.tell(line);
+            }
+        }
     }
     EXPECT_TRUE(matchesGolden(machine.transcript, "margens"));
     for (const float margin : {form.PackX, form.Mx4045, form.Margem_oculta2}) {
@@ -127,8 +118,6 @@ TEST_F(MargensTest, TestPrintIsOneStripOfTheItem) {
     Text code = u"20";
     DesenhaCode39(box, 1, code, false, false);
     knowBars(box.Picture(), code);
-    // A kind that the dialog is not for is taken as an accessory by the first one, as it is by the
-    // last one.
     for (const TestPrint& print : {TestPrint{oculta, tipo::corrugado, "teste-acessorio"},
                                    TestPrint{oculta, tipo::oculta, "teste-oculta"},
                                    TestPrint{caixa, tipo::frente_de_caixa, "teste-frente"},

@@ -1,6 +1,7 @@
 #include "workbench/Campos.h"
 
-#include "support/FakePlatform.h"
+#include "support/Golden.h"
+#include "support/ItemFields.h"
 
 #include <gtest/gtest.h>
 
@@ -9,14 +10,7 @@ namespace etiquetas::test {
 using Event = void (*)(FrmPadrao&);
 using KeyEvent = KeyCode (*)(FrmPadrao&, KeyCode);
 
-class CamposTest : public testing::Test, protected LoadedWorkbench {
-  protected:
-    void pressInWindow(const std::vector<KeyCode>& keys) {
-        for (const KeyCode key : keys) {
-            FrmPadrao_keydown(form, key);
-        }
-    }
-};
+class CamposTest : public testing::Test, protected LoadedWorkbench {};
 
 TEST_F(CamposTest, FieldWithTheFocusIsYellowAndSelected) {
     struct FieldEvents {
@@ -66,82 +60,68 @@ TEST_F(CamposTest, ListsKeepTheirArrowKeysAndEnterMovesOn) {
         KeyEvent key;
         Event leave;
     };
-    const std::vector<KeyCode> keys{key::arrow_up, key::arrow_down, key::enter, u'A'};
+    const auto press_in_window = [&] {
+        for (const KeyCode key : {key::arrow_up, key::arrow_down, key::enter, KeyCode{u'A'}}) {
+            FrmPadrao_keydown(form, key);
+        }
+    };
     for (const auto& [enter, list_key, leave] :
          {ListEvents{cmbtipo_enter, cmbtipo_key, cmbtipo_leave},
           ListEvents{cmb_referencia_enter, cmb_referencia_key, cmb_referencia_leave},
           ListEvents{cmb_referencia1_enter, cmb_referencia1_key, cmb_referencia1_leave}}) {
         machine.log.clear();
         enter(form);
-        pressInWindow(keys);
+        press_in_window();
         EXPECT_EQ(list_key(form, key::arrow_down), key::arrow_down);
         EXPECT_EQ(machine.log, Log());
         EXPECT_EQ(list_key(form, key::enter), key::enter);
         EXPECT_EQ(machine.log, Log{"focus forward"});
         leave(form); // blank fields load nothing
-        pressInWindow(keys);
+        press_in_window();
         EXPECT_EQ(machine.log,
                   (Log{"focus forward", "focus backward", "focus forward", "focus forward"}));
     }
 }
 
 TEST_F(CamposTest, OrdersAreLoadedOnEnterAndOnLeaving) {
-    machine.files.bytes[u"/programa/77 FRENTE.TXT"] =
-        fileOf({u"", lineOf({}), lineOf({.colour = u"RUBRO"})});
+    machine.files.bytes[u"/programa/77 FRENTE.TXT"] = fileOf({u"", lineOf(BoxLine{})});
     const std::vector<Text> old{u"old"};
-    const std::vector<Text> loaded{u"3104527 | TENIS CASUAL | AZUL",
-                                   u"3104527 | TENIS CASUAL | RUBRO"};
+    const std::vector<Text> loaded{u"3104527 | TENIS CASUAL | AZUL"};
     const Event press_enter = [](FrmPadrao& f) { EXPECT_EQ(txtarquivo_key(f, u'\r'), u'\r'); };
-    struct Load {
-        Event event;
-        TextView number;
-        const std::vector<Text>& items;
-    };
-    for (const Load& load :
-         {Load{txtarquivo_leave, u"77", loaded}, Load{cmbtipo_leave, u"77", loaded},
-          Load{press_enter, u"77", loaded}, Load{txtarquivo_leave, u" ", old},
-          Load{cmbtipo_leave, u" ", old}, Load{press_enter, u" ", loaded}}) {
-        form.cmb_referencia.entries = old;
-        form.txtarquivo.text = load.number;
-        load.event(form);
-        EXPECT_EQ(form.cmb_referencia.entries, load.items);
+    for (const Event event : {txtarquivo_leave, cmbtipo_leave, press_enter}) {
+        for (const TextView number : {u"77", u" "}) {
+            const bool is_loaded = number == u"77" || event == press_enter;
+            form.cmb_referencia.entries = old;
+            form.txtarquivo.text = number;
+            event(form);
+            EXPECT_EQ(form.cmb_referencia.entries, is_loaded ? loaded : old);
+        }
     }
 }
 
 TEST_F(CamposTest, CaptionOfThePanelTellsHowAnItemIsRead) {
-    form.List1.entries = {lineOf({}), lineOf({.colour = u"RUBRO"}),
-                          u"9;AZUL;;TENIS CASUAL;W;B;1;3104527001;;;;"}; // an accessory
-    struct Item {
-        TextView caption, colour, txtcor, TXTPARES, txtqte1;
-    };
-    // clang-format off
-    constexpr Item items[] = {
-        // caption           colour    txtcor    pairs    pack
-        {u"Caixa / Oculta",  u"RUBRO", u"RUBRO", u"12",   u"old"},
-        {tipo::acessorio,    u"AZUL",  u"AZUL",  u"9",    u"old"},
-        {tipo::corrugado,    u"RUBRO", u"old",   u"old",  u""},
-        {u"",                u"RUBRO", u"RUBRO", u"12",   u"old"}};
-    // clang-format on
-    for (const Item& item : items) {
-        SCOPED_TRACE(utf8(item.caption));
-        form.Frame1.caption = item.caption;
-        form.txtcor.text = form.TXTPARES.text = form.txtqte1.text = u"old";
-        form.cmb_referencia.type(u"3104527 | TENIS CASUAL | " + Text(item.colour));
-        cmb_referencia_leave(form);
-        EXPECT_EQ(form.txtcor.text, item.txtcor);
-        EXPECT_EQ(form.TXTPARES.text, item.TXTPARES);
-        EXPECT_EQ(form.txtqte1.text, item.txtqte1);
-    }
-}
-
-TEST_F(CamposTest, PackIsReadWhenItsListIsLeft) {
-    form.txtqte1.text = u"old";
-    form.cmb_referencia1.type(u" ");
-    cmb_referencia1_leave(form);
-    EXPECT_EQ(form.txtqte1.text, u"old");
+    const Text box = lineOf({.colour = u"RUBRO"});
+    const Text accessory = u"9;AZUL;;TENIS CASUAL;W;B;1;3104527001;;;;";
+    form.List1.entries = {lineOf(BoxLine{}), box, accessory};
     form.cmb_referencia1.type(u"no such item");
-    cmb_referencia1_leave(form);
-    EXPECT_EQ(form.txtqte1.text, u"");
+    const auto leave = [&](const std::string& what, Event event) {
+        form.txtcor.text = form.TXTPARES.text = form.txtqte1.text = u"old";
+        event(form);
+        machine.tell("==", what);
+        tellField(machine, "txtcor", form.txtcor);
+        tellField(machine, "TXTPARES", form.TXTPARES.text);
+        tellField(machine, "txtqte1", form.txtqte1);
+    };
+    for (const TextView caption : {u"Caixa / Oculta", u"Acessório", u"Corrugado", u""}) {
+        form.Frame1.caption = caption;
+        form.cmb_referencia.type(caption == u"Acessório" ? u"3104527 | TENIS CASUAL | AZUL"
+                                                         : u"3104527 | TENIS CASUAL | RUBRO");
+        leave(inQuotes(caption), cmb_referencia_leave);
+    }
+    leave("a pack that is not there", cmb_referencia1_leave);
+    form.cmb_referencia1.type(u" ");
+    leave("no pack", cmb_referencia1_leave);
+    EXPECT_TRUE(matchesGolden(machine.transcript, "listas-de-itens"));
 }
 
 TEST_F(CamposTest, AccessoriesAreCountedInItemsAndHaveNoHiddenLabels) {
@@ -159,19 +139,14 @@ TEST_F(CamposTest, AccessoriesAreCountedInItemsAndHaveNoHiddenLabels) {
 TEST_F(CamposTest, TotalsFollowTheQuantitiesAsFarAsSixteenBitsGo) {
     form.txtnumero[0].text = u"12";
     form.txtnumero[5].text = u" ";
-    struct Typed {
-        TextView quantity, pairs, hidden_labels;
-    };
-    // Beyond 16 bits the totals stay: of the hidden labels, of the pairs, of one size.
-    for (const Typed& typed :
-         {Typed{u"3", u"15", u"30"}, Typed{u"0", u"12", u"24"}, Typed{u"16371", u"16383", u"32766"},
-          Typed{u"16372", u"16383", u"32766"}, Typed{u"32760", u"16383", u"32766"},
-          Typed{u"100000", u"16383", u"32766"}, Typed{u"", u"12", u"24"}}) {
-        form.txtnumero[13].text = typed.quantity;
+    for (const TextView quantity : {u"3", u"0", u"16371", u"16372", u"32760", u"100000", u""}) {
+        form.txtnumero[13].text = quantity;
         EXPECT_EQ(failureOf([&] { txtnumero_leave(form, 13); }), 0);
-        EXPECT_EQ(form.TXTPARES.text, typed.pairs) << utf8(typed.quantity);
-        EXPECT_EQ(form.TXTOCULTAS.text, typed.hidden_labels) << utf8(typed.quantity);
+        machine.tell("==", inQuotes(quantity));
+        tellField(machine, "TXTPARES", form.TXTPARES.text);
+        tellField(machine, "TXTOCULTAS", form.TXTOCULTAS.text);
     }
+    EXPECT_TRUE(matchesGolden(machine.transcript, "totais"));
 }
 
 TEST_F(CamposTest, DoubleClickTurnsTheOptionsOrEachLockOfTheSizeRun) {

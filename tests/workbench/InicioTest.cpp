@@ -4,7 +4,6 @@
 #include "base/Version.h"
 #include "support/Golden.h"
 #include "support/ItemFields.h"
-#include "support/Messages.h"
 #include "support/ProgramGolden.h"
 #include "support/SettingsText.h"
 
@@ -30,18 +29,15 @@ TEST_F(InicioTest, FieldsStandAsDesignedBeforeTheLoad) {
 }
 
 TEST_F(InicioTest, StepsOfANewInstallation) {
-    machine.printers.faces = {u"Estrangelo Edessa", u"Calibri Light", u"Franklin Gothic Medium"};
     machine.files.bytes[u"/programa/IMPRIMIR.BAT"] = "";
     const std::string logos = "\n Brisako.jpg\n Lumira.jpg\nNão foi(ram) localizado(s)!";
-    const std::string faces = "Calibri,Malgun Gothic Semilight,";
     FrmPadrao_load(form);
     Log& log = machine.log;
     log.erase(std::unique(log.begin(), log.end()), log.end()); // a write for each key
     EXPECT_EQ(log,
               (Log{"printers", "folder /programa/imagens",
                    "message stop ok [] O(s) arquivo(s): " + logos, "write /programa/Varesko.ini",
-                   "delete /programa/IMPRIMIR.BAT", "pointer busy", "faces", "pointer normal",
-                   messageBox("Atenção: Instale as seguintes fontes: " + faces)}));
+                   "delete /programa/IMPRIMIR.BAT", "pointer busy", "faces", "pointer normal"}));
     EXPECT_FALSE(form.LogoBrisakoOk);
     EXPECT_FALSE(form.LogoLumiraOk);
     EXPECT_EQ(form.NomeFonte, u"Estrangelo Edessa");

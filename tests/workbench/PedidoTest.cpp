@@ -1,7 +1,9 @@
 #include "workbench/Pedido.h"
 
-#include "support/FakePlatform.h"
+#include "support/Golden.h"
+#include "support/ItemFields.h"
 #include "support/Messages.h"
+#include "support/ProgramGolden.h"
 
 #include <gtest/gtest.h>
 
@@ -24,7 +26,7 @@ class PedidoTest : public testing::Test, protected LoadedWorkbench {
 };
 
 TEST_F(PedidoTest, OrderThatIsNotFoundIsTold) {
-    file(u"77 corrugado.txt") = fileOf({u"", lineOf({})});
+    file(u"77 corrugado.txt") = fileOf({u"", lineOf(BoxLine{})});
     load(tipo::oculta, u"78 ");
     EXPECT_FALSE(form.cmd_printacessorio.visible);
     load(tipo::oculta, u"77");
@@ -47,78 +49,52 @@ TEST_F(PedidoTest, FileThatIsEmptyOrGoneIsTold) {
     EXPECT_EQ(form.List1.entries, std::vector<Text>{u"old"});
 }
 
-struct KindOfOrder {
-    TextView kind;
-    bool corrugated, printable;
-    TextView family, caption, key;
-};
-
-// clang-format off
-constexpr KindOfOrder kinds_of_orders[] = {
-    // kind                corrugated  printable  family  caption            key of its file
-    {u"Acessório",         false,      true,      u"C",   u"Acessório",      u"loose67 | c3 | c1"},
-    {u"Corrugado",         true,       true,      u"B",   u"Acessório",      u"pack567890 | c5 | c4"},
-    {u"Oculta",            false,      true,      u"A",   u"Caixa / Oculta", u"box5678 | c4 | c1"},
-    {u"Frente de Caixa",   false,      true,      u"A",   u"Caixa / Oculta", u"box5678 | c4 | c1"},
-    {u"Outro",             false,      false,     u"A",   u"Caixa / Oculta", u"box5678 | c4 | c1"}};
-// clang-format on
-
-// A carton order keeps the caption of the hidden panel, an unknown kind the family.
 TEST_F(PedidoTest, EachKindReadsTheFileOfItsFamily) {
     file(u"77 FRENTE.TXT") = fileOf({u"", u"12;c1;c2;c3;c4;c5;box567890;c7;c8"});
     file(u"77 CORRUGADO.TXT") = fileOf({u"", u"12;c1;c2;c3;c4;c5;pack567890;c7;c8"});
     file(u"77 ACESSORIO.TXT") = fileOf({u"", u"12;c1;c2;c3;c4;c5;c6;loose67890;c8"});
-    for (const KindOfOrder& order : kinds_of_orders) {
-        SCOPED_TRACE(utf8(order.kind));
+    for (const TextView kind :
+         {u"Acessório", u"Corrugado", u"Oculta", u"Frente de Caixa", u"Outro"}) {
         form.txtgrade1.locked = form.txtgrade2.locked = form.txttotgrade.locked = false;
-        load(order.kind, u"77");
-        EXPECT_EQ((order.corrugated ? form.cmb_referencia1 : form.cmb_referencia).entries,
-                  std::vector<Text>{Text(order.key)});
-        EXPECT_EQ(form.TipoArquivo, order.family);
-        EXPECT_EQ(form.Frame1.caption, order.caption);
-        EXPECT_EQ(form.Frame3.visible, order.corrugated);
-        EXPECT_NE(form.Frame1.visible, order.corrugated);
+        load(kind, u"77");
+        machine.tell("==", utf8(kind));
+        tellList(machine, "cmb_referencia", form.cmb_referencia);
+        tellList(machine, "cmb_referencia1", form.cmb_referencia1);
+        tellField(machine, "TipoArquivo", form.TipoArquivo);
+        tellField(machine, "Frame1", form.Frame1.caption, form.Frame1.visible ? " shown" : "");
+        tellField(machine, "Frame3", form.Frame3.caption, form.Frame3.visible ? " shown" : "");
+        machine.tell(form.cmd_printacessorio.visible ? "printable" : "not printable");
         EXPECT_TRUE(form.txtgrade1.locked);
         EXPECT_TRUE(form.txtgrade2.locked);
         EXPECT_TRUE(form.txttotgrade.locked);
-        EXPECT_EQ(form.cmd_printacessorio.visible, order.printable);
     }
+    EXPECT_TRUE(matchesGolden(machine.transcript, "pedidos"));
 }
-
-struct OrderSearch {
-    TextView number, folder, folder_after;
-    std::size_t listed;
-    TextView found;
-};
-
-// clang-format off
-constexpr OrderSearch order_searches[] = {
-    // number        folder        folder after   files listed  file found
-    {u"77",          u"/pedidos",  u"/pedidos",   1,            u"77 FRENTE.txt"},
-    {u"1400050831",  u"/gone",     u"/programa",  2,            u"a 1400050831 frente.txt"},
-    {u" 1400 ",      u"/programa", u"/programa",  3,            u"a 1400050831 frente.txt"},
-    {u"",            u"  ",        u"/programa",  4,            u"a 1400050831 frente.txt"},
-    {u"b 14",        u"/programa", u"/programa",  1,            u"B 1400050831 FRENTE.TXT"},
-    {u"c*00 f ",     u"/programa", u"/programa",  1,            u"C 1400 Frente.txt"}};
-// clang-format on
 
 TEST_F(PedidoTest, FirstFileOfTheFamilyIsTaken) {
     for (const TextView name : {u"B 1400050831 FRENTE.TXT", u"a 1400050831 frente.txt",
                                 u"C 1400 Frente.txt", u"A 1400 FRENTE.bak", u"0 1500.txt"}) {
         file(name) = fileOf({u"", lineOf({.description = Text(name)})});
     }
-    machine.files.bytes[u"/pedidos/77 FRENTE.txt"] =
-        fileOf({u"", lineOf({.description = u"77 FRENTE.txt"})});
-    for (const OrderSearch& search : order_searches) {
-        SCOPED_TRACE(utf8(search.number));
+    machine.files.bytes[u"/pedidos/77 FRENTE.txt"] = fileOf({u"", lineOf(BoxLine{})});
+    struct Search {
+        TextView number, folder;
+    };
+    for (const Search& search : {Search{u"77", u"/pedidos"}, Search{u"1400050831", u"/gone"},
+                                 Search{u" 1400 ", u"/programa"}, Search{u"", u"  "},
+                                 Search{u"b 14", u"/programa"}, Search{u"c*00 f ", u"/programa"}}) {
         form.lblpath.caption = search.folder;
+        file(u"Varesko.ini").clear();
         load(tipo::frente_de_caixa, search.number);
-        EXPECT_EQ(form.txtdescricao.text, search.found);
-        EXPECT_EQ(form.lblpath.caption, search.folder_after);
-        EXPECT_EQ(form.filelist.entries.size(), search.listed);
-        EXPECT_TRUE(
-            file(u"Varesko.ini").ends_with("[Config]\r\narquivo=" + utf8(search.number) + "\r\n"));
+        machine.tell("==", inQuotes(search.number), "in", inQuotes(search.folder));
+        tellField(machine, "lblpath", form.lblpath.caption);
+        tellList(machine, "filelist", form.filelist);
+        tellField(machine, "txtdescricao", form.txtdescricao);
+        for (const std::string& line : programLines(file(u"Varesko.ini"))) {
+            machine.tell(line);
+        }
     }
+    EXPECT_TRUE(matchesGolden(machine.transcript, "busca-de-pedidos"));
 }
 
 TEST_F(PedidoTest, HeaderTellsTheBannerEvenWithoutItems) {
@@ -155,14 +131,14 @@ TEST_F(PedidoTest, EveryItemLineIsKeptAndEveryKeyOnce) {
 
 TEST_F(PedidoTest, ShortLinesAreToldOnceAndTenOfThemNamed) {
     std::vector<Text> lines(12, u"12;short;line");
-    lines[1] = lineOf({});
+    lines[1] = lineOf(BoxLine{});
     loadHidden(lines);
     lines.emplace_back(u"1");
     loadHidden(lines);
     const std::string text = "Há linhas incompletas no arquivo 77 Frente.txt, que não foram "
                              "carregadas. Linhas: 3, 4, 5, 6, 7, 8, 9, 10, 11, 12";
     EXPECT_EQ(machine.logged({"message"}), (Log{warningBox(text), warningBox(text + "...")}));
-    EXPECT_EQ(form.List1.entries, std::vector<Text>{lineOf({})});
+    EXPECT_EQ(form.List1.entries, std::vector<Text>{lineOf(BoxLine{})});
 }
 
 } // namespace etiquetas::test
