@@ -5,7 +5,6 @@
 #include "support/ItemFields.h"
 #include "support/Messages.h"
 #include "support/PrintWorkbench.h"
-#include "support/ProgramGolden.h"
 #include "support/SettingsText.h"
 
 #include <gtest/gtest.h>
@@ -70,9 +69,7 @@ TEST_F(MargensTest, MarginsAreStoredAsTypedAndDefaultsWhereTheyAreBlank) {
             dialog->open = true;
             cmd_gravar_click(form, *dialog);
             tellMargins(dialog->open ? "open" : "closed", *dialog);
-            for (const std::string& line : programLines(machine.files.bytes[settings_file])) {
-                machine.tell(line);
-            }
+            tellSettings(machine, machine.files);
         }
     }
     EXPECT_TRUE(matchesGolden(machine.transcript, "margens"));
@@ -131,21 +128,10 @@ TEST_F(MargensTest, TestPrintIsOneStripOfTheItem) {
     }
 }
 
-TEST_F(MargensTest, TestTakesItsMarginsInMemoryUntilTheNextJob) {
+TEST_F(MargensTest, NextJobReadsItsMarginsAnew) {
     storeMargins("Margem_oculta1=7\r\n");
     test(oculta, typed_margins);
-    test(pack, typed_margins);
-    form.cmbtipo.choose(0);
-    test(caixa, typed_margins);
     EXPECT_EQ(form.Margem_oculta1, 3.5F);
-    EXPECT_EQ(form.Margem_oculta11, 46);
-    EXPECT_EQ(form.Margem_oculta2, 5);
-    EXPECT_EQ(form.Mx4045_1, 3.5F);
-    EXPECT_EQ(form.Mx4045_2, 46);
-    EXPECT_EQ(form.Mx4045, 5);
-    EXPECT_EQ(form.PackX, 3.5F);
-    EXPECT_EQ(form.PackY, 5);
-    form.cmbtipo.choose(3);
     print();
     EXPECT_EQ(form.Margem_oculta1, 7);
 }

@@ -3,7 +3,6 @@
 #include "support/Golden.h"
 #include "support/ItemFields.h"
 #include "support/Messages.h"
-#include "support/ProgramGolden.h"
 #include "support/SettingsText.h"
 #include "workbench/Dialogos.h"
 
@@ -38,9 +37,7 @@ class FrmParametroImpressoraTest : public testing::Test, protected LoadedWorkben
         tellField(machine, "lbloculta", form.lbloculta.caption);
         tellField(machine, "frentecaixa", form.frentecaixa.caption);
         tellField(machine, "lblcompartilhamento", form.lblcompartilhamento.caption);
-        for (const std::string& line : programLines(machine.files.bytes[settings_file])) {
-            machine.tell(line);
-        }
+        tellSettings(machine, machine.files);
     }
 
     ParametroDialog& dialog = form.FrmParametroImpressora;

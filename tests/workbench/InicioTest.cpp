@@ -4,7 +4,6 @@
 #include "base/Version.h"
 #include "support/Golden.h"
 #include "support/ItemFields.h"
-#include "support/ProgramGolden.h"
 #include "support/SettingsText.h"
 
 #include <gtest/gtest.h>
@@ -40,7 +39,6 @@ TEST_F(InicioTest, StepsOfANewInstallation) {
                    "delete /programa/IMPRIMIR.BAT", "pointer busy", "faces", "pointer normal"}));
     EXPECT_FALSE(form.LogoBrisakoOk);
     EXPECT_FALSE(form.LogoLumiraOk);
-    EXPECT_EQ(form.NomeFonte, u"Estrangelo Edessa");
 }
 
 // Tells the settings file after the start, and the fields that are saved in it.
@@ -48,9 +46,7 @@ static void startAndTell(Journal& journal, const std::string& what, Workbench& w
     journal.tell("==", what);
     const FrmPadrao& form = workbench.form;
     FrmPadrao_load(workbench.form);
-    for (const std::string& line : programLines(workbench.machine.files.bytes[settings_file])) {
-        journal.tell(line);
-    }
+    tellSettings(journal, workbench.machine.files);
     tellField(journal, "txtcliente", form.txtcliente);
     tellField(journal, "txtlote", form.txtlote);
     tellField(journal, "txtarquivo", form.txtarquivo);
@@ -92,9 +88,10 @@ TEST_F(InicioTest, CaptionTellsTheVersion) {
 }
 
 TEST_F(InicioTest, DefaultPrinterIsChosenOrElseTheFirst) {
-    machine.printers.devices = {u"A", u"Papel", u"B"};
+    const std::vector<Text> devices{u"A", u"Papel", u"B"};
+    machine.printers.devices = devices;
     FrmPadrao_load(form);
-    EXPECT_EQ(form.CMBPRINTER.entries, (std::vector<Text>{u"A", u"Papel", u"B"}));
+    EXPECT_EQ(form.CMBPRINTER.entries, devices);
     EXPECT_EQ(form.CMBPRINTER.text, u"Papel");
     EXPECT_EQ(form.lblprinterdefault.caption, u"Papel");
     machine.printers.devices = {u"A", u"papel"};

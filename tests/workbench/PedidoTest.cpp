@@ -3,7 +3,7 @@
 #include "support/Golden.h"
 #include "support/ItemFields.h"
 #include "support/Messages.h"
-#include "support/ProgramGolden.h"
+#include "support/SettingsText.h"
 
 #include <gtest/gtest.h>
 
@@ -90,9 +90,7 @@ TEST_F(PedidoTest, FirstFileOfTheFamilyIsTaken) {
         tellField(machine, "lblpath", form.lblpath.caption);
         tellList(machine, "filelist", form.filelist);
         tellField(machine, "txtdescricao", form.txtdescricao);
-        for (const std::string& line : programLines(file(u"Varesko.ini"))) {
-            machine.tell(line);
-        }
+        tellSettings(machine, machine.files);
     }
     EXPECT_TRUE(matchesGolden(machine.transcript, "busca-de-pedidos"));
 }

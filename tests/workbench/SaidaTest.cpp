@@ -2,7 +2,6 @@
 
 #include "support/FakePlatform.h"
 #include "support/Golden.h"
-#include "support/ProgramGolden.h"
 #include "support/SettingsText.h"
 
 #include <gtest/gtest.h>
