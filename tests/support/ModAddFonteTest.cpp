@@ -9,28 +9,23 @@ namespace etiquetas::test {
 
 class ModAddFonteTest : public testing::Test, protected FakePlatform {
   protected:
-    Log check() {
+    void expectChecked(const Log& steps) {
+        log.clear();
         VerificaFontes(printers, *this, *this);
-        return log;
+        EXPECT_EQ(log, steps);
     }
 };
 
-TEST_F(ModAddFonteTest, FacesAreFoundInAnyCaseAndWithBlanks) {
-    EXPECT_EQ(check(), (Log{"pointer busy", "faces", "pointer normal"}));
-}
-
-TEST_F(ModAddFonteTest, MissingFacesAreNamed) {
+TEST_F(ModAddFonteTest, FacesAreFoundInAnyCaseAndMissingOnesNamed) {
+    const std::string install = "Atenção: Instale as seguintes fontes: ";
+    expectChecked({"pointer busy", "faces", "pointer normal"});
     printers.faces = {u"Estrangelo Edessa", u"Calibri Light", u"Franklin Gothic Medium"};
-    EXPECT_EQ(check().back(),
-              messageBox("Atenção: Instale as seguintes fontes: Calibri,Malgun Gothic Semilight,"));
-}
-
-TEST_F(ModAddFonteTest, SurfaceWithoutFacesLacksThemAll) {
+    expectChecked({"pointer busy", "faces", "pointer normal",
+                   messageBox(install + "Calibri,Malgun Gothic Semilight,")});
     failing = {"faces"};
-    EXPECT_EQ(check(),
-              (Log{"pointer busy", "pointer normal",
-                   messageBox("Atenção: Instale as seguintes fontes: Estrangelo Edessa,Franklin "
-                              "Gothic Medium,Calibri,Malgun Gothic Semilight,")}));
+    expectChecked({"pointer busy", "pointer normal",
+                   messageBox(install + "Estrangelo Edessa,Franklin Gothic Medium,Calibri,"
+                                        "Malgun Gothic Semilight,")});
 }
 
 } // namespace etiquetas::test

@@ -10,22 +10,18 @@ TEST(Module1Test, BlanksAtTheEndsAreNotSelected) {
     EXPECT_EQ(field.selection, (Selection{.start = 0, .length = 2}));
 }
 
-TEST(Module1Test, WholeNumbersTakeDigitsAndTheMinusSign) {
+TEST(Module1Test, NumbersTakeDigitsAndSignsAndDecimalsAPointAsAComma) {
     for (const KeyCode key : {u'0', u'9', key::backspace, u'-'}) {
         EXPECT_EQ(SoNumero(key), key);
-    }
-    for (const KeyCode key : {u',', u'.', key::select_all, key::enter, u'a', u'E'}) {
-        EXPECT_EQ(SoNumero(key), key::none);
-    }
-}
-
-TEST(Module1Test, DecimalsTakeTheCommaTooAndAPointAsOne) {
-    for (const KeyCode key : {u'0', u'9', key::backspace, u'-', u','}) {
         EXPECT_EQ(SoDecimal(key), key);
     }
-    EXPECT_EQ(SoDecimal(u'.'), u',');
     for (const KeyCode key : {key::select_all, key::enter, u'a', u'E'}) {
+        EXPECT_EQ(SoNumero(key), key::none);
         EXPECT_EQ(SoDecimal(key), key::none);
+    }
+    for (const KeyCode key : {u',', u'.'}) {
+        EXPECT_EQ(SoNumero(key), key::none);
+        EXPECT_EQ(SoDecimal(key), u',');
     }
 }
 
