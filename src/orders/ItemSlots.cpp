@@ -12,10 +12,10 @@ namespace etiquetas {
 
 namespace {
 
+// The hidden labels of a total may be more than 16 bits hold; they are only shown.
 void showTotals(FrmPadrao& form, std::int16_t total) {
-    const std::int16_t hidden = toInteger16(std::int32_t{total} * hidden_labels_per_pair);
     form.TXTPARES.text = numberText(total);
-    form.TXTOCULTAS.text = numberText(hidden);
+    form.TXTOCULTAS.text = numberText(std::int32_t{total} * hidden_labels_per_pair);
 }
 
 std::int16_t sumOf(std::int16_t one, std::int16_t other) {
