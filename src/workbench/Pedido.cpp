@@ -1,6 +1,7 @@
 #include "workbench/Pedido.h"
 
 #include "base/CodePage.h"
+#include "base/Failure.h"
 #include "base/Numbers.h"
 #include "config/Settings.h"
 #include "model/FrmPadrao.h"
@@ -11,6 +12,8 @@
 #include "workbench/LabelKinds.h"
 
 #include <algorithm>
+#include <optional>
+#include <string>
 #include <unordered_set>
 
 namespace etiquetas {
@@ -70,6 +73,17 @@ void warn(FrmPadrao& form, Text message) {
         {.text = std::move(message), .symbol = Symbol::exclamation, .title = u"ATENÇÃO!!!"});
 }
 
+// Nothing, and reported, where the file is there but can't be read: without the permission, say, or
+// while another program keeps it locked.
+std::optional<std::string> bytesOf(FrmPadrao& form, TextView path) {
+    try {
+        return form.platform.files.read(path);
+    } catch (const Failure& failure) {
+        warn(form, u"O arquivo não pôde ser lido!\n" + failure.description());
+        return std::nullopt;
+    }
+}
+
 // The order's file as text; empty, and reported, where there is nothing to read. The upper-case
 // name finds the file whatever the case of its own name.
 Text readOrder(FrmPadrao& form, TextView name) {
@@ -79,11 +93,11 @@ Text readOrder(FrmPadrao& form, TextView name) {
         warn(form, u"O arquivo não existe!");
         return {};
     }
-    Text order = fromCodePage1252(files.read(*path));
-    if (order.empty()) {
+    const auto bytes = bytesOf(form, *path);
+    if (bytes && bytes->empty()) {
         warn(form, u"O arquivo está em branco!");
     }
-    return order;
+    return fromCodePage1252(bytes.value_or(std::string()));
 }
 
 void showBanner(FrmPadrao& form, TextView header) {

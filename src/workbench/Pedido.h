@@ -7,7 +7,7 @@ struct FrmPadrao;
 /// Loads the order of `txtarquivo` for the label kind of `cmbtipo`: finds its file in the folder of
 /// `lblpath`, shows the family's panel, takes the lines to `List1` and the item keys to the item
 /// list, and has the first item loaded. What is not found is reported in a message box and hides
-/// the Print command. Fails where the item loader does, or where the file can't be read.
+/// the Print command; a file that can't be read is reported too. Fails where the item loader does.
 void carrega_pedido(FrmPadrao& form);
 
 } // namespace etiquetas

@@ -49,6 +49,16 @@ TEST_F(PedidoTest, FileThatIsEmptyOrGoneIsTold) {
     EXPECT_EQ(form.List1.entries, std::vector<Text>{u"old"});
 }
 
+TEST_F(PedidoTest, FileThatCannotBeReadIsTold) {
+    form.List1.entries = {u"old"};
+    file(u"77 Frente.txt") = fileOf({u"", lineOf(BoxLine{})});
+    machine.failing = {"read"};
+    EXPECT_EQ(failureOf([&] { load(tipo::oculta, u"77"); }), 0);
+    EXPECT_EQ(machine.log.back(),
+              warningBox("O arquivo não pôde ser lido!\nrefused", "ATENÇÃO!!!"));
+    EXPECT_EQ(form.List1.entries, std::vector<Text>{u"old"});
+}
+
 TEST_F(PedidoTest, EachKindReadsTheFileOfItsFamily) {
     file(u"77 FRENTE.TXT") = fileOf({u"", u"12;c1;c2;c3;c4;c5;box567890;c7;c8"});
     file(u"77 CORRUGADO.TXT") = fileOf({u"", u"12;c1;c2;c3;c4;c5;pack567890;c7;c8"});
