@@ -21,6 +21,14 @@ Failure fileFailure(TextView deed, TextView path) {
     return {failure_number::file_access, u"Files", std::move(description)};
 }
 
+// Any order is far smaller; what is larger would fill the memory.
+constexpr qint64 most_bytes = qint64{256} * 1024 * 1024;
+
+Failure tooLarge(TextView path) {
+    return {failure_number::file_access, u"Files",
+            Text(u"O arquivo \"").append(path).append(u"\" tem mais de 256 MB.")};
+}
+
 } // namespace
 
 QtFiles::QtFiles(const QString& program_folder)
@@ -60,9 +68,13 @@ void QtFiles::deleteFile(TextView path) {
 }
 
 std::string QtFiles::read(TextView path) const {
+    // A pipe or a device would keep the program waiting.
     QFile file(toQString(path));
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!fileExists(path) || !file.open(QIODevice::ReadOnly)) {
         throw fileFailure(u"ler o arquivo", path);
+    }
+    if (file.size() > most_bytes) {
+        throw tooLarge(path);
     }
     std::string bytes = file.readAll().toStdString();
     if (file.error() != QFileDevice::NoError) {

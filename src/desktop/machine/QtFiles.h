@@ -36,6 +36,7 @@ class QtFiles final : public Files {
     void makeFolder(TextView path) override;
     void deleteFile(TextView path) override;
 
+    /// Regular files of up to 256 MB, and links to them.
     [[nodiscard]] std::string read(TextView path) const override;
     void replace(TextView path, std::string_view bytes) override;
 
