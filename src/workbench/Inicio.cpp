@@ -122,7 +122,7 @@ void readSettings(FrmPadrao& form) {
     form.txtarquivo.text = read(ini_section::config, config_key::order);
     form.lbloculta.caption = read(ini_section::impressora, printer_key::hidden_format);
     if (isBlank(form.lbloculta.caption)) {
-        form.lbloculta.caption = default_hidden_format;
+        form.lbloculta.caption = Text(default_hidden_format);
     }
     form.lblcompartilhamento.caption = read(ini_section::impressora, printer_key::share);
     form.lblpath.caption = read(ini_section::impressora, printer_key::order_folder);
