@@ -68,26 +68,21 @@ struct Calibration : LoadedWorkbench {
     void test(MargensDialog& dialog, const MarginTexts& margins) {
         type(dialog, margins);
         form.coluna_etiqueta = 2;
-        machine.log.clear();
+        machine.forget();
         cmd_teste_click(form, dialog);
     }
 
-    // What the last test did, the texts of its labels being one step.
+    // What the last test did but its drawings.
     [[nodiscard]] Log steps() const {
-        Log steps = machine.logged(
-            {"message", "printer", "paper", "width", "height", "print", "page", "end"});
-        for (std::string& step : steps) {
-            step = step.starts_with("print ") ? "texts" : step;
-        }
-        steps.erase(std::unique(steps.begin(), steps.end()), steps.end());
-        return steps;
+        return machine.logged({"message", "printer", "paper", "width", "height", "page", "end"});
     }
 
     // The texts of the last test, in their order.
     [[nodiscard]] std::vector<std::string> texts() const {
         std::vector<std::string> texts;
-        for (const std::string& line : machine.logged({"print"})) {
-            texts.push_back(line.substr(line.find(" mm ") + 4));
+        for (const std::string& line : machine.told("text ")) {
+            const auto quote = line.find('"') + 1;
+            texts.push_back(line.substr(quote, line.size() - quote - 1));
         }
         return texts;
     }
@@ -95,12 +90,11 @@ struct Calibration : LoadedWorkbench {
     // Where the last test printed a text.
     [[nodiscard]] std::vector<Place> placesOf(const std::string& text) const {
         std::vector<Place> places;
-        for (const std::string& line : machine.logged({"print"})) {
-            if (line.ends_with(" mm " + text)) {
-                Place place{};
-                std::istringstream(line.substr(line.find(" at ") + 4)) >> place.x >> place.y;
-                places.push_back(place);
-            }
+        for (std::string line : machine.told("\"" + text + "\"")) {
+            std::replace(line.begin(), line.end(), ',', '.');
+            Place place{};
+            std::istringstream(line.substr(line.find(' '))) >> place.x >> place.y;
+            places.push_back(place);
         }
         return places;
     }
@@ -223,10 +217,9 @@ TEST_P(TestPrintTest, IsOneStripOfTheItem) {
     form.txtpreco.text = u"0,00";
     form.marca_logo.clear();
     test(form.*GetParam().dialog, typed_margins);
-    EXPECT_EQ(steps(),
-              (Log{"printer Etiquetas", "paper 256", "width 9000", "height " + GetParam().height,
-                   "texts", "page", "end", "printer Papel"}));
-    EXPECT_EQ(machine.logged({"unit"}).front(), "unit mm");
+    EXPECT_EQ(steps(), (Log{"printer Etiquetas", "paper 256", "width 9000",
+                            "height " + GetParam().height, "page", "end", "printer Papel"}));
+    EXPECT_EQ(machine.told("unit ").front(), "unit millimetres");
     EXPECT_EQ(placesOf("527"), GetParam().places_of_code);
     std::vector<std::string> texts_of_strip;
     for (std::size_t label = 0; label < GetParam().places_of_code.size(); ++label) {
@@ -243,8 +236,7 @@ INSTANTIATE_TEST_SUITE_P(Dialogs, TestPrintTest, testing::Values(
     TestPrint{
         .name = "Hidden", .dialog = &FrmPadrao::FrmMargensOcultaZPL2, .kind = tipo::oculta,
         .height = "1200", .places_of_code = {{.x = 33.8, .y = 4}, {.x = 79, .y = 4}},
-        .texts_of_label = {"527", "3104527001", "204455", "6677888", "36", "TENIS CASUAL", "AZUL",
-                           ""}},
+        .texts_of_label = {"527", "3104527001", "204455", "6677888", "36", "TENIS CASUAL", "AZUL"}},
     TestPrint{
         .name = "AccessoryForAnyOtherKind", .dialog = &FrmPadrao::FrmMargensOcultaZPL2,
         .kind = tipo::corrugado, .height = "1200",
@@ -295,15 +287,14 @@ TEST_F(MargensTest, PromotionLosesItsBlanksBeforeItsLengthIsLookedAt) {
     form.cmbtipo.choose(0);
     form.txtpromocao.text = u" A ";
     test(caixa, typed_margins);
-    const Log& log = machine.log;
-    EXPECT_EQ(std::count(log.begin(), log.end(), "print Calibri 16 bold at 33.5 32 mm A"), 1);
+    EXPECT_EQ(machine.told("text 33,5 32,0 Calibri 16 bold \"A\"").size(), 1U);
 }
 
 TEST_F(MargensTest, MarginThatIsNoNumberAndStepsThatFailArePassedOver) {
     form.Margem_oculta1 = form.Margem_oculta2 = 3;
     machine.failing = {"printers", "paper", "width", "height", "end"};
     test(oculta, {.txtmargem1 = u"1,2,3", .txtmargem2 = u"46", .txtmargemsuperior = u"-,-"});
-    EXPECT_EQ(steps(), (Log{"texts", "page"}));
+    EXPECT_EQ(steps(), (Log{"page"}));
     EXPECT_EQ(placesOf("527"), (std::vector<Place>{{.x = 33.3, .y = 2}, {.x = 79, .y = 2}}));
 }
 

@@ -7,22 +7,8 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <string>
-#include <vector>
 
 namespace etiquetas::test {
-
-/// A picture as rows of "#" and blanks.
-using Rows = std::vector<std::string>;
-
-inline Rows rowsOf(const Picture& picture) {
-    Rows rows(static_cast<std::size_t>(picture->height));
-    for (std::size_t i = 0; i < picture->pixels.size(); ++i) {
-        rows[i / static_cast<std::size_t>(picture->width)] +=
-            picture->pixels[i] == black_pixel ? '#' : ' ';
-    }
-    return rows;
-}
 
 /// Files in memory, with names that are exact in their case, and the pictures in them: a file that
 /// begins with "JPEG" is one. Letters are black boxes of 6 by 10 pixels.

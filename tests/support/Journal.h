@@ -4,7 +4,6 @@
 #include "base/Text.h"
 
 #include <filesystem>
-#include <iomanip>
 #include <set>
 #include <sstream>
 #include <string>
@@ -14,6 +13,11 @@ namespace etiquetas::test {
 
 inline std::string utf8(TextView text) {
     return std::filesystem::path(text).string();
+}
+
+/// A text as the transcript has it.
+inline std::string inQuotes(TextView text) {
+    return '"' + utf8(text) + '"';
 }
 
 inline Failure refusal() {
@@ -31,8 +35,7 @@ struct Journal {
     /// What came to the printers and to the operator, in the words of the golden files.
     Log transcript;
 
-    /// Logs a step, or refuses it. Five digits, so that what binary fractions leave behind does not
-    /// show.
+    /// Logs a step, or refuses it.
     template <typename... Parts>
     void note(const std::string& word, const Parts&... parts) {
         if (failing.contains(word)) {
@@ -41,13 +44,12 @@ struct Journal {
         log.push_back(lineOfWords(word, parts...));
     }
 
-    /// Adds a line to the transcript, with blanks between its words.
     template <typename... Parts>
     void tell(const std::string& word, const Parts&... parts) {
         transcript.push_back(lineOfWords(word, parts...));
     }
 
-    /// The lines that begin with one of these words.
+    /// The lines of the log that begin with one of these words.
     [[nodiscard]] Log logged(const std::set<std::string>& words) const {
         Log lines = log;
         std::erase_if(lines, [&](const std::string& line) {
@@ -56,11 +58,13 @@ struct Journal {
         return lines;
     }
 
-    /// The lines of the transcript that hold a piece.
-    [[nodiscard]] Log told(const std::string& piece) const {
+    /// The lines of the transcript that hold one of these pieces.
+    template <typename... Pieces>
+    [[nodiscard]] Log told(const Pieces&... pieces) const {
         Log lines = transcript;
-        std::erase_if(
-            lines, [&](const std::string& line) { return line.find(piece) == std::string::npos; });
+        std::erase_if(lines, [&](const std::string& line) {
+            return ((line.find(pieces) == std::string::npos) && ...);
+        });
         return lines;
     }
 
@@ -73,7 +77,7 @@ struct Journal {
     template <typename... Parts>
     static std::string lineOfWords(const std::string& word, const Parts&... parts) {
         std::ostringstream line;
-        line << std::setprecision(5) << word;
+        line << word;
         ((line << ' ' << parts), ...);
         return line.str();
     }
@@ -85,10 +89,5 @@ struct Fake {
 
     Journal& journal;
 };
-
-/// A text as the transcript has it.
-inline std::string inQuotes(TextView text) {
-    return '"' + utf8(text) + '"';
-}
 
 } // namespace etiquetas::test
