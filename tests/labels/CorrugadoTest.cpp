@@ -26,14 +26,6 @@ class CorrugadoTest : public LabelTest {
     }
 };
 
-TEST_F(CorrugadoTest, ShortPrePackCode) {
-    knowCode39Bars(u"2044556677");
-    draw({.flag = u"L"});
-    EXPECT_TRUE(matchesGolden(machine.transcript, "corrugado-pre-pack"));
-    EXPECT_EQ(form.NomeFonte, u"Franklin Gothic Medium");
-    EXPECT_EQ(form.txtbarra.text, u"2044556677");
-}
-
 TEST_F(CorrugadoTest, EanWithShrunkTextsAndALongVolume) {
     knowCode39Bars(u"2044556677888");
     form.txtean.visible = true;
@@ -43,10 +35,12 @@ TEST_F(CorrugadoTest, EanWithShrunkTextsAndALongVolume) {
     const Text description = u"TENIS CASUAL DE COURO LISO COM CADARCO E ZIPER 01";
     draw({.code = u"2044556677888", .description = description, .first = 7, .last = 7});
     EXPECT_TRUE(matchesGolden(machine.transcript, "corrugado-ean"));
+    EXPECT_EQ(form.NomeFonte, u"Franklin Gothic Medium");
+    EXPECT_EQ(form.txtbarra.text, u"2044556677888");
 }
 
 TEST_F(CorrugadoTest, BarsHoldTwelveCharactersWhileTheEanIsHidden) {
-    for (const TextView code : {u"204455667788_", u"20445566778"}) {
+    for (const TextView code : {u"204455667788_", u"20445566778", u"2044556677"}) {
         knowCode39Bars(Text(left(code, 12)));
         draw({.code = code});
     }
@@ -60,6 +54,7 @@ TEST_F(CorrugadoTest, RefusedCodeEndsTheDrawingBeforeItsBars) {
 
 TEST_F(CorrugadoTest, WideTextsShrinkFromWhatTheSurfaceHolds) {
     machine.printers.size_step = 0.25F;
+    draw({});
     form.txtgrade1.text = Text(20, u'6');
     draw({.description = Text(48, u'A')});
     EXPECT_TRUE(matchesGolden(machine.told(" 78,4 ", " 118,0 "), "corrugado-larguras"));
@@ -73,18 +68,10 @@ struct Volumes {
 };
 
 TEST_F(CorrugadoTest, VolumeIsPaddedToTheLengthOfTheLastOne) {
-    // clang-format off
     for (const auto& [last_of_order, first, last] :
-         {// last, from,   to
-          Volumes{u"3",     2,    3},
-          Volumes{u"12",    7,    7},
-          Volumes{u"120",   7,    7},
-          Volumes{u"1234",  7,    7},
-          Volumes{u"9",     1000, 1000},
-          Volumes{u"",      6,    7},
-          Volumes{u"12345", 7,    7},
-          Volumes{u"3",     3,    2}}) {
-        // clang-format on
+         {Volumes{u"3", 2, 3}, Volumes{u"12", 7, 7}, Volumes{u"120", 7, 7}, Volumes{u"1234", 7, 7},
+          Volumes{u"9", 1000, 1000}, Volumes{u"", 6, 7}, Volumes{u"12345", 7, 7},
+          Volumes{u"3", 3, 2}}) {
         form.lblmax.caption = last_of_order;
         draw({.first = first, .last = last});
     }

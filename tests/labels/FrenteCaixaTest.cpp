@@ -29,15 +29,6 @@ class FrenteCaixaTest : public LabelTest {
     Text description; // as the label leaves it
 };
 
-TEST_F(FrenteCaixaTest, WithAPrice) {
-    draw({.quantity = 2});
-    EXPECT_TRUE(matchesGolden(machine.transcript, "frente-com-preco"));
-    EXPECT_EQ(description, u"TENISCASUAL");
-    EXPECT_EQ(form.txtbarra.text, u"2044556677888");
-    EXPECT_EQ(form.NomeFonte, u"Franklin Gothic Semilight");
-    EXPECT_EQ(machine.logged({"measure"}).front(), "measure Franklin Gothic Semilight 7");
-}
-
 TEST_F(FrenteCaixaTest, WithoutAPriceFromColumnTwoOn) {
     form.coluna_etiqueta = 2;
     draw({.description = u"TENIS CASUAL DE COURO COM CADARCO 67",
@@ -59,13 +50,17 @@ TEST_F(FrenteCaixaTest, NoQuantityOrARefusedBarcode) {
     EXPECT_EQ(form.coluna_etiqueta, 2);
 }
 
-TEST_F(FrenteCaixaTest, TextsByTheirLengths) {
+TEST_F(FrenteCaixaTest, WithAPriceAndTextsOfEachLength) {
     draw({.size = u"8", .promotion = u"P "});
     draw({.size = u"G ", .promotion = u" P "});
     draw({.size = u"100", .price = u"1990"});
     draw({.size = u"36/7", .price = u"1,2,34"});
     draw({.size = u"  "});
     EXPECT_TRUE(matchesGolden(machine.transcript, "frente-textos"));
+    EXPECT_EQ(description, u"TENISCASUAL");
+    EXPECT_EQ(form.txtbarra.text, u"2044556677888");
+    EXPECT_EQ(form.NomeFonte, u"Franklin Gothic Semilight");
+    EXPECT_EQ(machine.logged({"measure"}).front(), "measure Franklin Gothic Semilight 7");
 }
 
 // A millimetre a character, so that the 32nd reaches the limit.

@@ -51,13 +51,10 @@ struct FakeFiles final : Files, Pictures, Fake {
         return read(path).starts_with("JPEG") ? std::make_shared<const Raster>() : throw refusal();
     }
     Raster text(TextView text) override {
-        constexpr int letter_width = 6;
-        constexpr int letter_height = 10;
         journal.note("letters", utf8(text));
-        const int width = letter_width * static_cast<int>(text.size());
-        const int pixels = width * letter_height;
-        return {width, letter_height,
-                std::vector<Pixel>(static_cast<std::size_t>(pixels), black_pixel)};
+        const std::size_t width = 6 * text.size();
+        constexpr std::size_t height = 10;
+        return {static_cast<int>(width), height, std::vector<Pixel>(width * height, black_pixel)};
     }
 };
 

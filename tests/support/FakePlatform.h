@@ -43,15 +43,16 @@ struct Workbench {
     }
 
     /// From here on the transcript tells these bars by their code.
+    void knowBars(const Picture& bars, TextView code) { know(*bars, "bars", " " + inQuotes(code)); }
     void knowEanBars(TextView twelve_digits) {
         PictureBox box(machine.pictures);
         DesenhaEan13(box, 1, twelve_digits, false);
-        know(*box.Picture(), "bars", " " + inQuotes(twelve_digits));
+        knowBars(box.Picture(), twelve_digits);
     }
     void knowCode39Bars(Text code) {
         PictureBox box(machine.pictures);
         DesenhaCode39(box, 1, code, false, false);
-        know(*box.Picture(), "bars", " " + inQuotes(code));
+        knowBars(box.Picture(), code);
     }
 
   private:

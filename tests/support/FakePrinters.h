@@ -47,10 +47,7 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
         return devices;
     }
     Text defaultName() const override { return u"Papel"; }
-    void makeCurrent(std::size_t at) override {
-        journal.note("printer", utf8(devices.at(at)));
-        journal.tell("printer", utf8(devices.at(at)));
-    }
+    void makeCurrent(std::size_t at) override { journal.tell("printer", utf8(devices.at(at))); }
 
     void FontName(TextView name) override { face = utf8(name); }
     void FontSize(float size) override {
@@ -64,18 +61,9 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
         unit = mode == ScaleMode::millimetres ? "millimetres" : "pixels";
         journal.tell("unit", unit);
     }
-    void PaperSize(int kind) override {
-        journal.note("paper", kind);
-        journal.tell("paper", kind);
-    }
-    void Width(int twips) override {
-        journal.note("width", twips);
-        journal.tell("page width", twips, "twips");
-    }
-    void Height(int twips) override {
-        journal.note("height", twips);
-        journal.tell("page height", twips, "twips");
-    }
+    void PaperSize(int kind) override { journal.tellStep("paper", "paper", kind); }
+    void Width(int twips) override { journal.tellStep("width", "page width", twips, "twips"); }
+    void Height(int twips) override { journal.tellStep("height", "page height", twips, "twips"); }
     /// An empty text leaves no line, since it draws nothing.
     void Print(TextView text) override {
         if (!text.empty()) {
@@ -114,10 +102,7 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
         journal.note("page");
         journal.tell("page");
     }
-    void EndDoc() override {
-        journal.note("end");
-        journal.tell("end of job");
-    }
+    void EndDoc() override { journal.tellStep("end", "end of job"); }
     std::size_t FontCount() const override {
         journal.note("faces");
         return faces.size();

@@ -35,18 +35,24 @@ struct Journal {
     /// What came to the printers and to the operator, in the words of the golden files.
     Log transcript;
 
-    /// Logs a step, or refuses it.
-    template <typename... Parts>
-    void note(const std::string& word, const Parts&... parts) {
+    void attempt(const std::string& word) const {
         if (failing.contains(word)) {
             throw refusal();
         }
+    }
+    template <typename... Parts>
+    void note(const std::string& word, const Parts&... parts) {
+        attempt(word);
         log.push_back(lineOfWords(word, parts...));
     }
-
     template <typename... Parts>
-    void tell(const std::string& word, const Parts&... parts) {
-        transcript.push_back(lineOfWords(word, parts...));
+    void tell(const Parts&... parts) {
+        transcript.push_back(lineOfWords(parts...));
+    }
+    template <typename... Parts>
+    void tellStep(const std::string& word, const Parts&... parts) {
+        attempt(word);
+        tell(parts...);
     }
 
     /// The lines of the log that begin with one of these words.

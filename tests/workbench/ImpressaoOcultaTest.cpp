@@ -67,7 +67,7 @@ TEST_F(ImpressaoOcultaTest, SizeWithoutCodesLeavesTheJobOpen) {
         EXPECT_EQ(machine.told("printer ", "message ", "end of job"),
                   (Log{"printer Etiquetas",
                        R"(message none ok "Erro - 1012 - Código Master - Contate Suporte ")"}));
-        EXPECT_EQ(left(), (OrderLeft{.items = 2, .lines = 4}));
+        expectLeft(2, 4);
     }
 }
 

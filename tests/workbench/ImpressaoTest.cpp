@@ -20,20 +20,20 @@ TEST_F(ImpressaoTest, ClosesTheMarginDialogs) {
 TEST_F(ImpressaoTest, ItemStaysOnNo) {
     print(Answer::no);
     EXPECT_EQ(form.txtcodigo.text, u"3104527");
-    EXPECT_EQ(left(), (OrderLeft{.items = 2, .lines = 3}));
+    expectLeft(2, 3);
 }
 
 // Of the lines the one at the item's position goes.
 TEST_F(ImpressaoTest, ItemsFollowOnYesAndTheLastLeavesSlotsAndPromotion) {
     print(Answer::yes);
-    EXPECT_EQ(left(), (OrderLeft{.items = 1, .lines = 2}));
+    expectLeft(1, 2);
     EXPECT_EQ(form.List1.text, lineOf({.quantity = u"1", .size = u"35"}));
     EXPECT_EQ(form.cmb_referencia.text, u"3104527 | TENIS CASUAL | RUBRO");
     EXPECT_EQ(form.txtcor.text, u"RUBRO");
     EXPECT_EQ(form.txtnumero[0].text, u"1");
     EXPECT_EQ(form.txtnumero[1].text, u"");
     print(Answer::yes);
-    EXPECT_EQ(left(), (OrderLeft{.items = 0, .lines = 1}));
+    expectLeft(0, 1);
     for (const TextField* field : {&form.txtcodigo, &form.txtcor, &form.txtsemana,
                                    &form.txtbandeira, &form.txtpreco, &form.txtdescricao}) {
         EXPECT_EQ(field->text, u"") << utf8(field->caption);
@@ -46,7 +46,7 @@ TEST_F(ImpressaoTest, NoItemLeavesTheListWhereNoneIsChosen) {
     form.cmb_referencia.type(u"3104527 | TENIS CASUAL | AZUL");
     print(Answer::yes);
     EXPECT_EQ(form.txtcodigo.text, u"");
-    EXPECT_EQ(left(), (OrderLeft{.items = 2, .lines = 3}));
+    expectLeft(2, 3);
 }
 
 TEST_F(ImpressaoTest, FirstItemFollowsTheSecond) {
