@@ -1,6 +1,5 @@
 #include "orders/Complemento.h"
 
-#include "support/Cases.h"
 #include "support/FakePlatform.h"
 
 #include <gtest/gtest.h>
@@ -16,10 +15,8 @@ TEST_F(ComplementoTest, PhotographOfTheProduct) {
         TextView code;
         bool has_photograph;
     };
-    for (const Product& product : {Product{.code = u"3104527 ", .has_photograph = true},
-                                   Product{.code = u"3104528", .has_photograph = false},
-                                   Product{.code = u"3104527", .has_photograph = true},
-                                   Product{.code = u"3104529", .has_photograph = false}}) {
+    for (const Product& product : {Product{u"3104527 ", true}, Product{u"3104528", false},
+                                   Product{u"3104527", true}, Product{u"3104529", false}}) {
         form.txtcodigo.text = product.code;
         EXPECT_EQ(failureOf([&] { pega_imagem(form); }), 0);
         EXPECT_EQ(form.tem_imagem, product.has_photograph) << utf8(product.code);
@@ -28,50 +25,40 @@ TEST_F(ComplementoTest, PhotographOfTheProduct) {
 }
 
 struct CodesOfSize {
-    std::string name;
-    Text size, barcode, master;
+    TextView size, barcode, master;
 };
-
-/// Lines of other items, then those of the item on the Workbench.
-class CodesOfSizeTest : public testing::TestWithParam<CodesOfSize>, protected LoadedWorkbench {
-  protected:
-    CodesOfSizeTest() {
-        form.txtcodigo.text = u"3104527 ";
-        form.txtcor.text = u" AZUL";
-        form.txtdescricao.text = u"TENIS CASUAL ";
-        form.List1.entries = {
-            lineOf({.barcode = u"1", .master = u"3104528"}),
-            lineOf({.barcode = u"1", .colour = u"RUBRO"}),
-            lineOf({.barcode = u"1", .description = u"BOTA"}),
-            lineOf({.barcode = u" 204455667788 ", .master = u"3104527001 ", .colour = u" AZUL"}),
-            lineOf({.barcode = u"second"}),
-            lineOf({.size = u"35 ", .barcode = u"2044556677880"}),
-            lineOf({.size = u"40", .master = u" 3104527001"}),
-            lineOf({.size = u"0,5", .barcode = u"20445566778"}),
-            u"1;AZUL;0; TENIS CASUAL ;S;B; 200000000008;31045279;P",
-            u"1;AZUL;0;TENIS CASUAL;S;B;second;31045279;P"};
-    }
-};
-
-TEST_P(CodesOfSizeTest, AreThoseOfTheFirstLine) {
-    ret_codcomplemento(form, GetParam().size);
-    EXPECT_EQ(form.lblbarra.caption, GetParam().barcode);
-    EXPECT_EQ(form.lblmaster.caption, GetParam().master);
-}
 
 // clang-format off
-INSTANTIATE_TEST_SUITE_P(Sizes, CodesOfSizeTest, testing::Values(
-    CodesOfSize{.name = "TwelveDigitsGetACheckDigit", .size = u"34",
-                .barcode = u"2044556677888", .master = u"3104527001"},
-    CodesOfSize{.name = "ThirteenDigitsStay", .size = u"35 ",
-                .barcode = u"2044556677880", .master = u"3104527001"},
-    CodesOfSize{.name = "ElevenDigitsOfAHalfSizeStay", .size = u"0,5",
-                .barcode = u"20445566778", .master = u"3104527001"},
-    CodesOfSize{.name = "SizeIsComparedAsItStands", .size = u"35"},
-    CodesOfSize{.name = "MasterCodeIsCutAsItStands", .size = u"40"},
-    CodesOfSize{.name = "SizeZeroReadsAccessoryLines", .size = u"00",
-                .barcode = u"2000000000084", .master = u"31045279"}), CaseName());
+constexpr CodesOfSize codes_of_sizes[] = {
+    {u"34",  u"2044556677888", u"3104527001"}, // twelve digits get a check digit
+    {u"35 ", u"2044556677880", u"3104527001"}, // thirteen stay
+    {u"0,5", u"20445566778",   u"3104527001"}, // eleven stay; a half size
+    {u"35",  u"",              u""},           // a size is compared as it stands
+    {u"40",  u"",              u""},           // a master code is cut as it stands
+    {u"00",  u"2000000000084", u"31045279"}};  // size zero reads the lines of accessories
 // clang-format on
+
+TEST_F(ComplementoTest, CodesAreThoseOfTheFirstLineOfTheItem) {
+    form.txtcodigo.text = u"3104527 ";
+    form.txtcor.text = u" AZUL";
+    form.txtdescricao.text = u"TENIS CASUAL ";
+    form.List1.entries = {
+        lineOf({.barcode = u"1", .master = u"3104528"}),
+        lineOf({.barcode = u"1", .colour = u"RUBRO"}),
+        lineOf({.barcode = u"1", .description = u"BOTA"}),
+        lineOf({.barcode = u" 204455667788 ", .master = u"3104527001 ", .colour = u" AZUL"}),
+        lineOf({.barcode = u"second"}),
+        lineOf({.size = u"35 ", .barcode = u"2044556677880"}),
+        lineOf({.size = u"40", .master = u" 3104527001"}),
+        lineOf({.size = u"0,5", .barcode = u"20445566778"}),
+        u"1;AZUL;0; TENIS CASUAL ;S;B; 200000000008;31045279;P",
+        u"1;AZUL;0;TENIS CASUAL;S;B;second;31045279;P"};
+    for (const CodesOfSize& codes : codes_of_sizes) {
+        ret_codcomplemento(form, codes.size);
+        EXPECT_EQ(form.lblbarra.caption, codes.barcode) << utf8(codes.size);
+        EXPECT_EQ(form.lblmaster.caption, codes.master) << utf8(codes.size);
+    }
+}
 
 TEST_F(ComplementoTest, SizeThatIsNoNumberFailsAndLeavesNoCodes) {
     form.lblbarra.caption = form.lblmaster.caption = u"old";

@@ -1,81 +1,90 @@
 #pragma once
 
-#include "model/FrmPadrao.h"
 #include "support/FakePlatform.h"
-
-#include <gtest/gtest.h>
 
 #include <map>
 
 namespace etiquetas::test {
 
-/// The fields of a box or accessory item.
-struct ItemFields {
-    Text txtcodigo, txtcor, txtdescricao, txtpreco, txtsemana, txtbandeira, txtpromocao;
-};
-
-inline void expectItem(const FrmPadrao& form, const ItemFields& expected) {
-    EXPECT_EQ(form.txtcodigo.text, expected.txtcodigo);
-    EXPECT_EQ(form.txtcor.text, expected.txtcor);
-    EXPECT_EQ(form.txtdescricao.text, expected.txtdescricao);
-    EXPECT_EQ(form.txtpreco.text, expected.txtpreco);
-    EXPECT_EQ(form.txtsemana.text, expected.txtsemana);
-    EXPECT_EQ(form.txtbandeira.text, expected.txtbandeira);
-    EXPECT_EQ(form.txtpromocao.text, expected.txtpromocao);
+/// Tells a field: its name, its text, and words on how it stands. An empty field without such
+/// words leaves no line.
+inline void tellField(Journal& journal, const std::string& name, TextView text,
+                      const std::string& words = "") {
+    if (!text.empty() || !words.empty()) {
+        journal.tell(name, inQuotes(text) + words);
+    }
 }
 
-/// The fields of a pack of cartons.
-struct PackFields {
-    Text txtqte1, txtcodigo1, txtfornecedor1, txtcor1, txtdescricao1, txtprepack, txtgrade1,
-        txtgrade2, txttotgrade, txtsemana1, txtdestino1, txtvolume, txtean;
-};
-
-inline void expectPack(const FrmPadrao& form, const PackFields& expected) {
-    EXPECT_EQ(form.txtqte1.text, expected.txtqte1);
-    EXPECT_EQ(form.txtcodigo1.text, expected.txtcodigo1);
-    EXPECT_EQ(form.txtfornecedor1.text, expected.txtfornecedor1);
-    EXPECT_EQ(form.txtcor1.text, expected.txtcor1);
-    EXPECT_EQ(form.txtdescricao1.text, expected.txtdescricao1);
-    EXPECT_EQ(form.txtprepack.text, expected.txtprepack);
-    EXPECT_EQ(form.txtgrade1.text, expected.txtgrade1);
-    EXPECT_EQ(form.txtgrade2.text, expected.txtgrade2);
-    EXPECT_EQ(form.txttotgrade.text, expected.txttotgrade);
-    EXPECT_EQ(form.txtsemana1.text, expected.txtsemana1);
-    EXPECT_EQ(form.txtdestino1.text, expected.txtdestino1);
-    EXPECT_EQ(form.txtvolume.text, expected.txtvolume);
-    EXPECT_EQ(form.txtean.text, expected.txtean);
+inline void tellField(Journal& journal, const std::string& name, const TextField& field) {
+    const std::string visible = field.visible ? "" : " hidden";
+    tellField(journal, name, field.text, visible + (field.locked ? " locked" : ""));
 }
 
-/// A size slot; `size_shown` is that of `Label7`, `quantity_shown` that of `txtnumero`.
-struct Slot {
-    Text size, quantity;
-    bool size_shown = true;
-    bool quantity_shown = true;
-
-    friend bool operator==(const Slot&, const Slot&) = default;
-};
-
-inline void PrintTo(const Slot& slot, std::ostream* out) {
-    *out << "size '" << utf8(slot.size) << (slot.size_shown ? "'" : "' hidden") << ", quantity '"
-         << utf8(slot.quantity) << (slot.quantity_shown ? "'" : "' hidden");
+/// Tells the text of a list, and its entries.
+inline void tellList(Journal& journal, const std::string& name, const ListField& list) {
+    tellField(journal, name, list.text);
+    for (const Text& entry : list.entries) {
+        tellField(journal, name + " entry", entry);
+    }
 }
 
-/// The slots from the first one to the last one that is not empty and hidden.
-inline std::vector<Slot> slotsOf(const FrmPadrao& form) {
-    std::vector<Slot> slots;
+/// Tells the totals of an item, and the size slots that are filled or shown.
+inline void tellQuantities(Journal& journal, const FrmPadrao& form) {
+    tellField(journal, "TXTPARES", form.TXTPARES);
+    tellField(journal, "TXTOCULTAS", form.TXTOCULTAS);
     for (std::size_t i = 0; i < total_slots; ++i) {
-        slots.push_back({form.Label7[i].caption, form.txtnumero[i].text, form.Label7[i].visible,
-                         form.txtnumero[i].visible});
+        const std::string slot = " " + std::to_string(i);
+        const Label& size = form.Label7[i];
+        const TextField& quantity = form.txtnumero[i];
+        tellField(journal, "Label7" + slot, size.caption, size.visible ? " shown" : "");
+        tellField(journal, "txtnumero" + slot, quantity.text, quantity.visible ? " shown" : "");
     }
-    while (!slots.empty() && slots.back() == Slot{u"", u"", false, false}) {
-        slots.pop_back();
-    }
-    return slots;
 }
 
-inline void expectTotals(const FrmPadrao& form, TextView pairs, TextView hidden_labels) {
-    EXPECT_EQ(form.TXTPARES.text, pairs);
-    EXPECT_EQ(form.TXTOCULTAS.text, hidden_labels);
+/// A text field of the Workbench and its name.
+struct NamedField {
+    const char* name;
+    TextField FrmPadrao::*field;
+};
+
+// clang-format off
+constexpr NamedField item_fields[] = {
+    {"txtcodigo", &FrmPadrao::txtcodigo}, {"txtcor", &FrmPadrao::txtcor},
+    {"txtdescricao", &FrmPadrao::txtdescricao}, {"txtpreco", &FrmPadrao::txtpreco},
+    {"txtsemana", &FrmPadrao::txtsemana}, {"txtbandeira", &FrmPadrao::txtbandeira},
+    {"txtpromocao", &FrmPadrao::txtpromocao}};
+
+constexpr NamedField pack_fields[] = {
+    {"txtqte1", &FrmPadrao::txtqte1}, {"txtcodigo1", &FrmPadrao::txtcodigo1},
+    {"txtfornecedor1", &FrmPadrao::txtfornecedor1}, {"txtcor1", &FrmPadrao::txtcor1},
+    {"txtdescricao1", &FrmPadrao::txtdescricao1}, {"txtprepack", &FrmPadrao::txtprepack},
+    {"txtgrade1", &FrmPadrao::txtgrade1}, {"txtgrade2", &FrmPadrao::txtgrade2},
+    {"txttotgrade", &FrmPadrao::txttotgrade}, {"txtsemana1", &FrmPadrao::txtsemana1},
+    {"txtdestino1", &FrmPadrao::txtdestino1}, {"txtvolume", &FrmPadrao::txtvolume},
+    {"txtean", &FrmPadrao::txtean}};
+// clang-format on
+
+/// Tells the fields of a box or accessory item.
+inline void tellItem(Journal& journal, const FrmPadrao& form) {
+    for (const NamedField& field : item_fields) {
+        tellField(journal, field.name, form.*field.field);
+    }
+    tellQuantities(journal, form);
+}
+
+/// Tells the fields of a pack of cartons.
+inline void tellPack(Journal& journal, const FrmPadrao& form) {
+    for (const NamedField& field : pack_fields) {
+        tellField(journal, field.name, form.*field.field);
+    }
+    tellField(journal, "lblean", form.lblean.caption, form.lblean.visible ? "" : " hidden");
+}
+
+/// Tells the volumes that the operator can choose from.
+inline void tellVolumes(Journal& journal, const FrmPadrao& form) {
+    tellList(journal, "cmb_vol1", form.cmb_vol1);
+    tellList(journal, "cmb_vol2", form.cmb_vol2);
+    tellField(journal, "lblmax", form.lblmax.caption);
 }
 
 /// A line of an order, so many fields wide. A field that is not among the `others` holds a blank
@@ -88,11 +97,10 @@ struct NumberedLine {
 inline Text lineOf(const NumberedLine& line) {
     Text text;
     for (std::size_t i = 0; i < line.width; ++i) {
-        const std::string number = std::to_string(i);
+        const std::string number = " " + std::to_string(i);
         const auto other = line.others.find(i);
         text += i > 0 ? u";" : u"";
-        text +=
-            other == line.others.end() ? u" " + Text(number.begin(), number.end()) : other->second;
+        text += other == line.others.end() ? Text(number.begin(), number.end()) : other->second;
     }
     return text;
 }

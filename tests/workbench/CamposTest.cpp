@@ -25,14 +25,12 @@ TEST_F(CamposTest, FieldWithTheFocusIsYellowAndSelected) {
     };
     const Event enter_slot = [](FrmPadrao& f) { txtnumero_enter(f, 13); };
     const Event leave_slot = [](FrmPadrao& f) { txtnumero_leave(f, 13); };
-    // clang-format off
-    for (const auto& [field, enter, leave] : {
-        FieldEvents{.field = form.txtarquivo, .enter = txtarquivo_enter, .leave = txtarquivo_leave},
-        FieldEvents{.field = form.txtcliente, .enter = txtcliente_enter, .leave = txtcliente_leave},
-        FieldEvents{.field = form.txtcor, .enter = txtcor_enter, .leave = txtcor_leave},
-        FieldEvents{.field = form.TXTOCULTAS, .enter = TXTOCULTAS_enter, .leave = TXTOCULTAS_leave},
-        FieldEvents{.field = form.txtnumero[13], .enter = enter_slot, .leave = leave_slot}}) {
-        // clang-format on
+    for (const auto& [field, enter, leave] :
+         {FieldEvents{form.txtarquivo, txtarquivo_enter, txtarquivo_leave},
+          FieldEvents{form.txtcliente, txtcliente_enter, txtcliente_leave},
+          FieldEvents{form.txtcor, txtcor_enter, txtcor_leave},
+          FieldEvents{form.TXTOCULTAS, TXTOCULTAS_enter, TXTOCULTAS_leave},
+          FieldEvents{form.txtnumero[13], enter_slot, leave_slot}}) {
         SCOPED_TRACE(utf8(field.caption));
         field.text = u"12 ";
         enter(form);
@@ -43,24 +41,21 @@ TEST_F(CamposTest, FieldWithTheFocusIsYellowAndSelected) {
     }
 }
 
-TEST_F(CamposTest, TextsAreTypedInUpperCase) {
-    for (const KeyEvent event : {txtarquivo_key, txtcliente_key, txtcor_key}) {
-        for (const KeyCode key : {u'0', u'9', key::select_all, key::backspace, u'-', u','}) {
-            EXPECT_EQ(event(form, key), key);
-        }
-        EXPECT_EQ(event(form, u'a'), u'A');
-        EXPECT_EQ(event(form, u'ç'), u'Ç');
-    }
-}
-
-TEST_F(CamposTest, QuantitiesTakeDigitsOnly) {
+TEST_F(CamposTest, TextsAreTypedInUpperCaseAndQuantitiesInDigits) {
+    struct TypedKey {
+        KeyCode typed, of_text, of_quantity;
+    };
     const KeyEvent slot_key = [](FrmPadrao& f, KeyCode key) { return txtnumero_key(f, 13, key); };
-    for (const KeyEvent event : {TXTOCULTAS_key, txtlote_key, slot_key}) {
-        for (const KeyCode key : {u'0', u'9', key::select_all, key::backspace}) {
-            EXPECT_EQ(event(form, key), key);
+    for (const TypedKey& key : {TypedKey{u'0', u'0', u'0'}, TypedKey{u'9', u'9', u'9'},
+                                TypedKey{key::select_all, key::select_all, key::select_all},
+                                TypedKey{key::backspace, key::backspace, key::backspace},
+                                TypedKey{u'-', u'-', key::none}, TypedKey{u',', u',', key::none},
+                                TypedKey{u'a', u'A', key::none}, TypedKey{u'ç', u'Ç', key::none}}) {
+        for (const KeyEvent event : {txtarquivo_key, txtcliente_key, txtcor_key}) {
+            EXPECT_EQ(event(form, key.typed), key.of_text);
         }
-        for (const KeyCode key : {u'-', u',', u'a', u'ç'}) {
-            EXPECT_EQ(event(form, key), key::none);
+        for (const KeyEvent event : {TXTOCULTAS_key, txtlote_key, slot_key}) {
+            EXPECT_EQ(event(form, key.typed), key.of_quantity);
         }
     }
 }
@@ -73,13 +68,9 @@ TEST_F(CamposTest, ListsKeepTheirArrowKeysAndEnterMovesOn) {
     };
     const std::vector<KeyCode> keys{key::arrow_up, key::arrow_down, key::enter, u'A'};
     for (const auto& [enter, list_key, leave] :
-         {ListEvents{.enter = cmbtipo_enter, .key = cmbtipo_key, .leave = cmbtipo_leave},
-          ListEvents{.enter = cmb_referencia_enter,
-          .key = cmb_referencia_key,
-          .leave = cmb_referencia_leave},
-          ListEvents{.enter = cmb_referencia1_enter,
-          .key = cmb_referencia1_key,
-          .leave = cmb_referencia1_leave}}) {
+         {ListEvents{cmbtipo_enter, cmbtipo_key, cmbtipo_leave},
+          ListEvents{cmb_referencia_enter, cmb_referencia_key, cmb_referencia_leave},
+          ListEvents{cmb_referencia1_enter, cmb_referencia1_key, cmb_referencia1_leave}}) {
         machine.log.clear();
         enter(form);
         pressInWindow(keys);
@@ -106,12 +97,10 @@ TEST_F(CamposTest, OrdersAreLoadedOnEnterAndOnLeaving) {
         TextView number;
         const std::vector<Text>& items;
     };
-    for (const Load& load : {Load{.event = txtarquivo_leave, .number = u"77", .items = loaded},
-                             Load{.event = cmbtipo_leave, .number = u"77", .items = loaded},
-                             Load{.event = press_enter, .number = u"77", .items = loaded},
-                             Load{.event = txtarquivo_leave, .number = u" ", .items = old},
-                             Load{.event = cmbtipo_leave, .number = u" ", .items = old},
-                             Load{.event = press_enter, .number = u" ", .items = loaded}}) {
+    for (const Load& load :
+         {Load{txtarquivo_leave, u"77", loaded}, Load{cmbtipo_leave, u"77", loaded},
+          Load{press_enter, u"77", loaded}, Load{txtarquivo_leave, u" ", old},
+          Load{cmbtipo_leave, u" ", old}, Load{press_enter, u" ", loaded}}) {
         form.cmb_referencia.entries = old;
         form.txtarquivo.text = load.number;
         load.event(form);
@@ -126,16 +115,14 @@ TEST_F(CamposTest, CaptionOfThePanelTellsHowAnItemIsRead) {
         TextView caption, colour, txtcor, TXTPARES, txtqte1;
     };
     // clang-format off
-    for (const Item& item : {
-        Item{.caption = u"Caixa / Oculta", .colour = u"RUBRO",
-             .txtcor = u"RUBRO", .TXTPARES = u"12", .txtqte1 = u"old"},
-        Item{.caption = tipo::acessorio, .colour = u"AZUL",
-             .txtcor = u"AZUL", .TXTPARES = u"9", .txtqte1 = u"old"},
-        Item{.caption = tipo::corrugado, .colour = u"RUBRO",
-             .txtcor = u"old", .TXTPARES = u"old", .txtqte1 = u""},
-        Item{.caption = u"", .colour = u"RUBRO",
-             .txtcor = u"RUBRO", .TXTPARES = u"12", .txtqte1 = u"old"}}) {
-        // clang-format on
+    constexpr Item items[] = {
+        // caption           colour    txtcor    pairs    pack
+        {u"Caixa / Oculta",  u"RUBRO", u"RUBRO", u"12",   u"old"},
+        {tipo::acessorio,    u"AZUL",  u"AZUL",  u"9",    u"old"},
+        {tipo::corrugado,    u"RUBRO", u"old",   u"old",  u""},
+        {u"",                u"RUBRO", u"RUBRO", u"12",   u"old"}};
+    // clang-format on
+    for (const Item& item : items) {
         SCOPED_TRACE(utf8(item.caption));
         form.Frame1.caption = item.caption;
         form.txtcor.text = form.TXTPARES.text = form.txtqte1.text = u"old";
@@ -175,15 +162,11 @@ TEST_F(CamposTest, TotalsFollowTheQuantitiesAsFarAsSixteenBitsGo) {
     struct Typed {
         TextView quantity, pairs, hidden_labels;
     };
+    // Beyond 16 bits the totals stay: of the hidden labels, of the pairs, of one size.
     for (const Typed& typed :
-         {Typed{.quantity = u"3", .pairs = u"15", .hidden_labels = u"30"},
-          Typed{.quantity = u"0", .pairs = u"12", .hidden_labels = u"24"},
-          Typed{.quantity = u"16371", .pairs = u"16383", .hidden_labels = u"32766"},
-          // Beyond 16 bits the totals stay: of the hidden labels, of the pairs, of one size.
-          Typed{.quantity = u"16372", .pairs = u"16383", .hidden_labels = u"32766"},
-          Typed{.quantity = u"32760", .pairs = u"16383", .hidden_labels = u"32766"},
-          Typed{.quantity = u"100000", .pairs = u"16383", .hidden_labels = u"32766"},
-          Typed{.quantity = u"", .pairs = u"12", .hidden_labels = u"24"}}) {
+         {Typed{u"3", u"15", u"30"}, Typed{u"0", u"12", u"24"}, Typed{u"16371", u"16383", u"32766"},
+          Typed{u"16372", u"16383", u"32766"}, Typed{u"32760", u"16383", u"32766"},
+          Typed{u"100000", u"16383", u"32766"}, Typed{u"", u"12", u"24"}}) {
         form.txtnumero[13].text = typed.quantity;
         EXPECT_EQ(failureOf([&] { txtnumero_leave(form, 13); }), 0);
         EXPECT_EQ(form.TXTPARES.text, typed.pairs) << utf8(typed.quantity);
@@ -191,25 +174,20 @@ TEST_F(CamposTest, TotalsFollowTheQuantitiesAsFarAsSixteenBitsGo) {
     }
 }
 
-TEST_F(CamposTest, DoubleClickShowsAndHidesTheOptions) {
+TEST_F(CamposTest, DoubleClickTurnsTheOptionsOrEachLockOfTheSizeRun) {
     Frame4_dblclick(form);
     EXPECT_TRUE(form.Frame2.visible);
     EXPECT_FALSE(form.txtgrade1.locked);
     Frame4_dblclick(form);
-    EXPECT_FALSE(form.Frame2.visible);
-}
-
-TEST_F(CamposTest, DoubleClickTurnsTheLockOfEachFieldOfTheSizeRun) {
     form.txtgrade2.locked = true;
-    for (const Event click : {txtgrade1_dblclick, txtgrade2_dblclick, txttotgrade_dblclick}) {
+    bool turned = false;
+    for (const Event click : {txtgrade1_dblclick, txtgrade1_dblclick, txtgrade2_dblclick,
+                              txtgrade2_dblclick, txttotgrade_dblclick, txttotgrade_dblclick}) {
         click(form);
-        EXPECT_TRUE(form.txtgrade1.locked);
-        EXPECT_FALSE(form.txtgrade2.locked);
-        EXPECT_TRUE(form.txttotgrade.locked);
-        click(form);
-        EXPECT_FALSE(form.txtgrade1.locked);
-        EXPECT_TRUE(form.txtgrade2.locked);
-        EXPECT_FALSE(form.txttotgrade.locked);
+        turned = !turned;
+        EXPECT_EQ(form.txtgrade1.locked, turned);
+        EXPECT_NE(form.txtgrade2.locked, turned);
+        EXPECT_EQ(form.txttotgrade.locked, turned);
     }
     EXPECT_FALSE(form.Frame2.visible);
 }

@@ -12,23 +12,20 @@ class DialogosTest : public testing::Test, protected LoadedWorkbench {};
 TEST_F(DialogosTest, EachKindHasItsMarginDialog) {
     struct Kind {
         TextView tipo;
-        bool opens_hidden, opens_box, opens_pack;
+        MargensDialog* opened;
     };
+    MargensDialog* const hidden = &form.FrmMargensOcultaZPL2;
+    MargensDialog* const box = &form.FrmMargensCxZPL45;
+    MargensDialog* const pack = &form.FrmMargensPackZPL;
     form.cmb_referencia.text = u"P";
     for (const Kind& kind :
-         {Kind{.tipo = tipo::oculta, .opens_hidden = true},
-          Kind{.tipo = tipo::acessorio, .opens_hidden = true},
-          Kind{.tipo = tipo::frente_de_caixa, .opens_box = true},
-          Kind{.tipo = tipo::corrugado, .opens_pack = true}, Kind{.tipo = u"Outro"}}) {
-        SCOPED_TRACE(utf8(kind.tipo));
+         {Kind{tipo::oculta, hidden}, Kind{tipo::acessorio, hidden},
+          Kind{tipo::frente_de_caixa, box}, Kind{tipo::corrugado, pack}, Kind{u"Outro", nullptr}}) {
         form.cmbtipo.type(Text(kind.tipo));
         cmd_calibra_click(form);
-        EXPECT_EQ(form.FrmMargensOcultaZPL2.open, kind.opens_hidden);
-        EXPECT_EQ(form.FrmMargensCxZPL45.open, kind.opens_box);
-        EXPECT_EQ(form.FrmMargensPackZPL.open, kind.opens_pack);
-        for (MargensDialog* const dialog :
-             {&form.FrmMargensOcultaZPL2, &form.FrmMargensCxZPL45, &form.FrmMargensPackZPL}) {
-            EXPECT_FALSE(dialog->to_front);
+        for (MargensDialog* const dialog : {hidden, box, pack}) {
+            EXPECT_EQ(dialog->open, dialog == kind.opened) << utf8(kind.tipo);
+            EXPECT_FALSE(dialog->to_front) << utf8(kind.tipo);
             dialog->open = false;
         }
     }

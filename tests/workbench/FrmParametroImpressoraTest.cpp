@@ -1,7 +1,9 @@
 #include "workbench/FrmParametroImpressora.h"
 
-#include "support/FakePlatform.h"
+#include "support/Golden.h"
+#include "support/ItemFields.h"
 #include "support/Messages.h"
+#include "support/ProgramGolden.h"
 #include "support/SettingsText.h"
 #include "workbench/Dialogos.h"
 
@@ -9,37 +11,43 @@
 
 namespace etiquetas::test {
 
-/// What the Workbench keeps of the parameters.
-struct KeptParameters {
-    TextView lbllinguagem, lblporta, LBLPORTAPARELELA, lblpath, lbloculta, frentecaixa,
-        lblcompartilhamento;
-};
-
 class FrmParametroImpressoraTest : public testing::Test, protected LoadedWorkbench {
   protected:
     FrmParametroImpressoraTest() { machine.files.bytes = {{u"/pedidos/a.txt", ""}}; }
 
-    void open() { cmd_parametro_click(form); }
+    void open(TextView settings) {
+        machine.files.bytes[settings_file] = settingsBytes(settings);
+        cmd_parametro_click(form);
+    }
 
-    void expectSaved(TextView settings, const KeptParameters& kept) {
-        machine.log.clear();
+    // Tells what is shown, saves it, and tells what the Workbench and the settings file keep.
+    void saveAndTell(const std::string& what) {
+        machine.tell("==", what);
+        tellField(machine, "TXTPATH", dialog.TXTPATH);
+        tellField(machine, "TXTPATH tooltip", dialog.TXTPATH.tooltip);
+        machine.tell("FrameSerial", dialog.FrameSerial.visible ? "shown" : "hidden");
+        machine.tell("FrameParalela", dialog.FrameParalela.visible ? "shown" : "hidden");
+        machine.tell("FrameUSB", dialog.FrameUSB.visible ? "shown" : "hidden");
+        machine.tell("-- saved");
         cmd_grava_click(form);
         EXPECT_FALSE(dialog.open);
-        EXPECT_EQ(machine.files.bytes[settings_file], settingsBytes(settings));
-        EXPECT_EQ(form.lbllinguagem.caption, kept.lbllinguagem);
-        EXPECT_EQ(form.lblporta.caption, kept.lblporta);
-        EXPECT_EQ(form.LBLPORTAPARELELA.caption, kept.LBLPORTAPARELELA);
-        EXPECT_EQ(form.lblpath.caption, kept.lblpath);
-        EXPECT_EQ(form.lbloculta.caption, kept.lbloculta);
-        EXPECT_EQ(form.frentecaixa.caption, kept.frentecaixa);
-        EXPECT_EQ(form.lblcompartilhamento.caption, kept.lblcompartilhamento);
+        tellField(machine, "lbllinguagem", form.lbllinguagem.caption);
+        tellField(machine, "lblporta", form.lblporta.caption);
+        tellField(machine, "LBLPORTAPARELELA", form.LBLPORTAPARELELA.caption);
+        tellField(machine, "lblpath", form.lblpath.caption);
+        tellField(machine, "lbloculta", form.lbloculta.caption);
+        tellField(machine, "frentecaixa", form.frentecaixa.caption);
+        tellField(machine, "lblcompartilhamento", form.lblcompartilhamento.caption);
+        for (const std::string& line : programLines(machine.files.bytes[settings_file])) {
+            machine.tell(line);
+        }
     }
 
     ParametroDialog& dialog = form.FrmParametroImpressora;
 };
 
 TEST_F(FrmParametroImpressoraTest, WhatIsStoredIsShownAndStoredBack) {
-    const Text settings = uR"([Impressora]
+    open(uR"([Impressora]
 Linguagem=PPLA
 Porta=Serial
 PortaSerial=Com9
@@ -50,26 +58,15 @@ NomeCompartilhamento=N
 Path=/pedidos
 TipoOculta=8
 TipoFrenteCaixa=45_40_2
-)";
-    machine.files.bytes[settings_file] = settingsBytes(settings);
-    open();
-    EXPECT_EQ(dialog.TXTPATH.text, u"/pedidos");
-    EXPECT_EQ(dialog.TXTPATH.tooltip, u"/pedidos");
-    EXPECT_TRUE(dialog.FrameSerial.visible);
-    EXPECT_FALSE(dialog.FrameParalela.visible);
-    EXPECT_FALSE(dialog.FrameUSB.visible);
-    expectSaved(settings, {.lbllinguagem = u"PPLA",
-                           .lblporta = u"SERIAL",
-                           .LBLPORTAPARELELA = u"Lpt4",
-                           .lblpath = u"/pedidos",
-                           .lbloculta = u"8",
-                           .frentecaixa = u"45_40_2",
-                           .lblcompartilhamento = u"N"});
-    EXPECT_EQ(machine.logged({"message", "delete"}), Log());
+)");
+    saveAndTell("all stored");
+    EXPECT_TRUE(matchesGolden(machine.transcript, "parametros-guardados"));
+    EXPECT_EQ(machine.logged({"delete"}), Log());
 }
 
 TEST_F(FrmParametroImpressoraTest, WhatIsNotKnownOrMissingIsReplaced) {
-    machine.files.bytes[settings_file] = settingsBytes(uR"([Impressora]
+    form.lbloculta.caption = u"old";
+    open(uR"([Impressora]
 Path=/nada
 Linguagem=ppla
 PortaSerial=Com10
@@ -77,41 +74,33 @@ PortaParalela=LPT2
 Porta=Paralela
 TipoOculta=9
 )");
-    form.lbloculta.caption = u"old";
-    open();
-    EXPECT_EQ(dialog.TXTPATH.tooltip, u"/nada");
-    EXPECT_TRUE(dialog.FrameParalela.visible);
-    EXPECT_FALSE(dialog.FrameSerial.visible);
-    EXPECT_FALSE(dialog.FrameUSB.visible);
-    expectSaved(uR"([Impressora]
-Path=/programa
-Linguagem=ZPL
-PortaSerial=Com1
-PortaParalela=Lpt1
-Porta=Paralela
-TipoOculta=9
-ConfiguracaoPortaSerial=
-PortaParalelaUSB=Lpt1
-NomeCompartilhamento=
-TipoFrenteCaixa=40_45_2
-)",
-                {.lbllinguagem = u"ZPL",
-                 .lblporta = u"PARALELA",
-                 .LBLPORTAPARELELA = u"Lpt1",
-                 .lblpath = u"/programa",
-                 .lbloculta = u"old",
-                 .frentecaixa = u"40_45_2",
-                 .lblcompartilhamento = u""});
-    EXPECT_EQ(machine.logged({"message", "delete"}), Log());
+    saveAndTell("unknown and missing");
+    EXPECT_TRUE(matchesGolden(machine.transcript, "parametros-trocados"));
+    EXPECT_EQ(machine.logged({"delete"}), Log());
+}
+
+TEST_F(FrmParametroImpressoraTest, SecondOpeningShowsAndStoresTheStartValues) {
+    machine.files.bytes[u"/programa/IMPRIMIR.BAT"] = "";
+    open(u"[Impressora]\nPath=/pedidos\n");
+    FrmParametroImpressora_cmd_sair_click(form);
+    open(u"[Impressora]\nPath=/pedidos\n");
+    EXPECT_EQ(dialog.TXTPATH.text, u"");
+    dialog.TXTPATH.text = u" "; // blank still
+    dialog.optoculta4.selected = true;
+    dialog.optfrentecaixa1.selected = true;
+    saveAndTell("opened again");
+    EXPECT_TRUE(matchesGolden(machine.transcript, "parametros-iniciais"));
+    EXPECT_EQ(machine.logged({"message", "delete"}),
+              (Log{messageBox("O Local Padrão de busca do Arquivo é Inválido..."),
+                   "delete /programa/IMPRIMIR.BAT"}));
 }
 
 TEST_F(FrmParametroImpressoraTest, OpenDialogComesToTheFrontAndSairStoresNothing) {
-    machine.files.bytes[settings_file] = "[Impressora]\r\nPath=/pedidos\r\n";
-    open();
+    open(u"[Impressora]\nPath=/pedidos\n");
     EXPECT_EQ(dialog.TXTPATH.text, u"/pedidos");
     EXPECT_TRUE(dialog.FrameUSB.visible); // no port is stored
     dialog.TXTPATH.text = u"typed";
-    open();
+    cmd_parametro_click(form);
     EXPECT_TRUE(dialog.to_front);
     EXPECT_EQ(dialog.TXTPATH.text, u"typed");
     FrmParametroImpressora_cmd_sair_click(form);
@@ -119,52 +108,16 @@ TEST_F(FrmParametroImpressoraTest, OpenDialogComesToTheFrontAndSairStoresNothing
     EXPECT_EQ(machine.log, Log());
 }
 
-TEST_F(FrmParametroImpressoraTest, SecondOpeningShowsAndStoresTheStartValues) {
-    machine.files.bytes[settings_file] = "[Impressora]\r\nPath=/pedidos\r\n";
-    machine.files.bytes[u"/programa/IMPRIMIR.BAT"] = "";
-    open();
-    FrmParametroImpressora_cmd_sair_click(form);
-    open();
-    EXPECT_EQ(dialog.TXTPATH.text, u"");
-    dialog.TXTPATH.text = u" "; // blank still
-    dialog.optoculta4.selected = true;
-    dialog.optfrentecaixa1.selected = true;
-    expectSaved(uR"([Impressora]
-Path=
-Linguagem=PPLA
-Porta=USB
-PortaSerial=Com1
-ConfiguracaoPortaSerial=9800,N,8,1
-PortaParalela=Lpt1
-PortaParalelaUSB=Lpt1
-NomeCompartilhamento=
-TipoOculta=2
-TipoFrenteCaixa=40_45_2
-)",
-                {.lbllinguagem = u"PPLA",
-                 .lblporta = u"USB",
-                 .LBLPORTAPARELELA = u"Lpt1",
-                 .lblpath = u"/programa",
-                 .lbloculta = u"2",
-                 .frentecaixa = u"40_45_2",
-                 .lblcompartilhamento = u""});
-    EXPECT_EQ(machine.logged({"message", "delete"}),
-              (Log{messageBox("O Local Padrão de busca do Arquivo é Inválido..."),
-                   "delete /programa/IMPRIMIR.BAT"}));
-}
-
 TEST_F(FrmParametroImpressoraTest, OnlyAFolderIsTakenFromTheBrowser) {
-    machine.picked = u"/pedidos";
-    CMD_GETPATH_click(form);
-    EXPECT_EQ(machine.log, Log{"pick Selecione o Local Padrão para Busca dos Arquivos"});
-    machine.picked = u"";
-    CMD_GETPATH_click(form);
-    EXPECT_EQ(machine.log.back(), messageBox("O Local Selecionado é Inválido..."));
-    machine.picked = u"/nada";
-    CMD_GETPATH_click(form);
+    for (const TextView picked : {u"/pedidos", u"", u"/nada"}) {
+        machine.picked = picked;
+        CMD_GETPATH_click(form);
+    }
     machine.failing = {"pick"};
     CMD_GETPATH_click(form);
-    EXPECT_EQ(machine.logged({"message"}), Log(3, messageBox("O Local Selecionado é Inválido...")));
+    const std::string pick = "pick Selecione o Local Padrão para Busca dos Arquivos";
+    const std::string message = messageBox("O Local Selecionado é Inválido...");
+    EXPECT_EQ(machine.log, (Log{pick, pick, message, pick, message, message}));
     EXPECT_EQ(dialog.TXTPATH.text, u"/pedidos");
     EXPECT_EQ(dialog.TXTPATH.tooltip, u"/pedidos");
 }

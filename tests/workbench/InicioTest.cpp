@@ -2,8 +2,10 @@
 
 #include "base/Numbers.h"
 #include "base/Version.h"
-#include "support/FakePlatform.h"
+#include "support/Golden.h"
+#include "support/ItemFields.h"
 #include "support/Messages.h"
+#include "support/ProgramGolden.h"
 #include "support/SettingsText.h"
 
 #include <gtest/gtest.h>
@@ -40,45 +42,34 @@ TEST_F(InicioTest, StepsOfANewInstallation) {
                    "message stop ok [] O(s) arquivo(s): " + logos, "write /programa/Varesko.ini",
                    "delete /programa/IMPRIMIR.BAT", "pointer busy", "faces", "pointer normal",
                    messageBox("Atenção: Instale as seguintes fontes: " + faces)}));
-}
-
-TEST_F(InicioTest, SettingsOfANewInstallation) {
-    FrmPadrao_load(form);
-    EXPECT_EQ(machine.files.bytes[settings_file], settingsBytes(uR"([Impressora]
-Linguagem=ZPL
-Porta=Paralela
-PortaSerial=Com1
-ConfiguracaoPortaSerial=9800,N,8,1
-PortaParalela=LPT1
-PortaParalelaUSB=LPT1
-NomeCompartilhamento=Zebra
-Path=/programa
-TipoOculta=3
-)"));
-}
-
-TEST_F(InicioTest, FieldsOfANewInstallation) {
-    FrmPadrao_load(form);
-    EXPECT_EQ(form.lblpath.caption, u"/programa");
-    EXPECT_EQ(form.lbloculta.caption, u"3");
-    EXPECT_EQ(form.lblcompartilhamento.caption, u"Zebra");
-    EXPECT_EQ(form.txtarquivo.text, u"");
-    EXPECT_EQ(form.NomeFonte, u"Estrangelo Edessa");
-    EXPECT_EQ(form.cmbtipo.text, u"Frente de Caixa");
-    EXPECT_EQ(form.cmbtipo.entries,
-              (std::vector<Text>{u"Frente de Caixa", u"Corrugado", u"Acessório", u"Oculta"}));
-    EXPECT_EQ(form.Caption, u"Etiquetas Lumira [Versão: " + numberText(version_major) + u"." +
-                                numberText(version_minor) + u"." + numberText(version_patch) +
-                                u"]");
     EXPECT_FALSE(form.LogoBrisakoOk);
     EXPECT_FALSE(form.LogoLumiraOk);
-    EXPECT_EQ(form.Label7[13].caption, u"");
-    EXPECT_FALSE(form.Label7[13].visible);
-    EXPECT_FALSE(form.txtnumero[13].visible);
+    EXPECT_EQ(form.NomeFonte, u"Estrangelo Edessa");
+}
+
+// Tells the settings file after the start, and the fields that are saved in it.
+static void startAndTell(Journal& journal, const std::string& what, Workbench& workbench) {
+    journal.tell("==", what);
+    const FrmPadrao& form = workbench.form;
+    FrmPadrao_load(workbench.form);
+    for (const std::string& line : programLines(workbench.machine.files.bytes[settings_file])) {
+        journal.tell(line);
+    }
+    tellField(journal, "txtcliente", form.txtcliente);
+    tellField(journal, "txtlote", form.txtlote);
+    tellField(journal, "txtarquivo", form.txtarquivo);
+    tellField(journal, "lblpath", form.lblpath.caption);
+    tellField(journal, "lbloculta", form.lbloculta.caption);
+    tellField(journal, "lblcompartilhamento", form.lblcompartilhamento.caption);
+    tellList(journal, "cmbtipo", form.cmbtipo);
+    tellQuantities(journal, form);
 }
 
 TEST_F(InicioTest, SavedFieldsAreTaken) {
-    machine.files.bytes[u"/programa/varesko.INI"] = settingsBytes(uR"([Config]
+    Journal journal;
+    startAndTell(journal, "new installation", *this);
+    Workbench saved;
+    saved.machine.files.bytes[settings_file] = settingsBytes(uR"([config]
 Referencia=R
 Lote=5
 arquivo=77
@@ -86,27 +77,22 @@ Tipo=Oculta
 [Impressora]
 TipoOculta=7
 NomeCompartilhamento=N
-Path=/p)");
-    FrmPadrao_load(form);
-    EXPECT_EQ(form.txtcliente.text, u"R");
-    EXPECT_EQ(form.txtlote.text, u"5");
-    EXPECT_EQ(form.txtarquivo.text, u"77");
-    EXPECT_EQ(form.lbloculta.caption, u"7");
-    EXPECT_EQ(form.lblcompartilhamento.caption, u"N");
-    EXPECT_EQ(form.lblpath.caption, u"/p");
-    EXPECT_EQ(form.cmbtipo.text, u"Frente de Caixa"); // whatever was stored
+Path=/p
+)");
+    startAndTell(journal, "all saved", saved);
+    Workbench not_saved;
+    not_saved.machine.files.bytes[settings_file] = settingsBytes(u"[Impressora]\nTipoOculta=  \n");
+    not_saved.form.txtcliente.text = not_saved.form.txtlote.text = u"old";
+    not_saved.form.lblcompartilhamento.caption = u"old";
+    startAndTell(journal, "none saved", not_saved);
+    EXPECT_TRUE(matchesGolden(journal.transcript, "partida"));
 }
 
-TEST_F(InicioTest, FieldsThatWereNotSavedAreEmpty) {
-    machine.files.bytes[settings_file] = "[Impressora]\r\nTipoOculta=  \r\n";
-    form.txtcliente.text = form.txtlote.text = form.lblcompartilhamento.caption = u"old";
+TEST_F(InicioTest, CaptionTellsTheVersion) {
     FrmPadrao_load(form);
-    EXPECT_EQ(form.txtcliente.text, u"");
-    EXPECT_EQ(form.txtlote.text, u"");
-    EXPECT_EQ(form.txtarquivo.text, u"");
-    EXPECT_EQ(form.lbloculta.caption, u"3");
-    EXPECT_EQ(form.lblcompartilhamento.caption, u"");
-    EXPECT_EQ(form.lblpath.caption, u"");
+    EXPECT_EQ(form.Caption, u"Etiquetas Lumira [Versão: " + numberText(version_major) + u"." +
+                                numberText(version_minor) + u"." + numberText(version_patch) +
+                                u"]");
 }
 
 TEST_F(InicioTest, DefaultPrinterIsChosenOrElseTheFirst) {
@@ -126,27 +112,22 @@ TEST_F(InicioTest, LogoThatIsNoPictureStaysEmptyWithoutAWord) {
                            {u"/programa/BRISAKO.JPG", "JPEG"},
                            {u"/programa/lumira.jpg", "no picture"},
                            {settings_file, ""}};
-    const Log steps{"printers",
-                    "load /programa/BRISAKO.JPG",
-                    "load /programa/lumira.jpg",
-                    "pointer busy",
-                    "faces",
-                    "pointer normal"};
-    FrmPadrao_load(form);
-    EXPECT_EQ(machine.log, steps);
-    EXPECT_TRUE(form.LogoBrisakoOk);
-    EXPECT_NE(form.pctlogo1.picture, nullptr);
-    EXPECT_FALSE(form.LogoLumiraOk);
-    EXPECT_EQ(form.pctlogo2.picture, nullptr);
-
-    std::swap(machine.files.bytes[u"/programa/BRISAKO.JPG"],
-              machine.files.bytes[u"/programa/lumira.jpg"]);
-    machine.log.clear();
-    FrmPadrao_load(form);
-    EXPECT_EQ(machine.log, steps);
-    EXPECT_FALSE(form.LogoBrisakoOk);
-    EXPECT_TRUE(form.LogoLumiraOk);
-    EXPECT_NE(form.pctlogo2.picture, nullptr);
+    Workbench other;
+    other.machine.files.bytes = machine.files.bytes;
+    std::swap(other.machine.files.bytes[u"/programa/BRISAKO.JPG"],
+              other.machine.files.bytes[u"/programa/lumira.jpg"]);
+    for (Workbench* const workbench : {static_cast<Workbench*>(this), &other}) {
+        const FrmPadrao& loaded = workbench->form;
+        const bool has_brisako = workbench != &other;
+        FrmPadrao_load(workbench->form);
+        EXPECT_EQ(workbench->machine.log,
+                  (Log{"printers", "load /programa/BRISAKO.JPG", "load /programa/lumira.jpg",
+                       "pointer busy", "faces", "pointer normal"}));
+        EXPECT_EQ(loaded.LogoBrisakoOk, has_brisako);
+        EXPECT_EQ(loaded.LogoLumiraOk, !has_brisako);
+        EXPECT_EQ(loaded.pctlogo1.picture != nullptr, has_brisako);
+        EXPECT_EQ(loaded.pctlogo2.picture != nullptr, !has_brisako);
+    }
 }
 
 TEST_F(InicioTest, FailingStepsArePassedOver) {
@@ -162,12 +143,12 @@ TEST_F(InicioTest, FailingStepsArePassedOver) {
 }
 
 TEST_F(InicioTest, WindowThatIsClosedClosesTheMarginDialogs) {
-    form.FrmMargensOcultaZPL2.open = form.FrmMargensCxZPL45.open = true;
-    form.FrmMargensPackZPL.open = true;
-    FrmPadrao_unload(form);
-    EXPECT_FALSE(form.FrmMargensOcultaZPL2.open);
-    EXPECT_FALSE(form.FrmMargensCxZPL45.open);
-    EXPECT_FALSE(form.FrmMargensPackZPL.open);
+    for (MargensDialog* const dialog :
+         {&form.FrmMargensOcultaZPL2, &form.FrmMargensCxZPL45, &form.FrmMargensPackZPL}) {
+        dialog->open = true;
+        FrmPadrao_unload(form);
+        EXPECT_FALSE(dialog->open) << utf8(dialog->Caption);
+    }
 }
 
 } // namespace etiquetas::test

@@ -1,6 +1,5 @@
 #include "workbench/Pedido.h"
 
-#include "support/Cases.h"
 #include "support/FakePlatform.h"
 #include "support/Messages.h"
 
@@ -8,7 +7,8 @@
 
 namespace etiquetas::test {
 
-struct Orders : LoadedWorkbench {
+class PedidoTest : public testing::Test, protected LoadedWorkbench {
+  protected:
     std::string& file(TextView name) { return machine.files.bytes[u"/programa/" + Text(name)]; }
 
     void load(TextView kind, TextView number) {
@@ -22,8 +22,6 @@ struct Orders : LoadedWorkbench {
         load(tipo::oculta, u"77");
     }
 };
-
-class PedidoTest : public testing::Test, protected Orders {};
 
 TEST_F(PedidoTest, OrderThatIsNotFoundIsTold) {
     file(u"77 corrugado.txt") = fileOf({u"", lineOf({})});
@@ -50,105 +48,90 @@ TEST_F(PedidoTest, FileThatIsEmptyOrGoneIsTold) {
 }
 
 struct KindOfOrder {
-    std::string name;
-    Text kind, family, key, caption = u"Caixa / Oculta";
-    bool corrugated = false;
-    bool printable = true;
+    TextView kind;
+    bool corrugated, printable;
+    TextView family, caption, key;
 };
 
-class KindOfOrderTest : public testing::TestWithParam<KindOfOrder>, protected Orders {};
+// clang-format off
+constexpr KindOfOrder kinds_of_orders[] = {
+    // kind                corrugated  printable  family  caption            key of its file
+    {u"Acessório",         false,      true,      u"C",   u"Acessório",      u"loose67 | c3 | c1"},
+    {u"Corrugado",         true,       true,      u"B",   u"Acessório",      u"pack567890 | c5 | c4"},
+    {u"Oculta",            false,      true,      u"A",   u"Caixa / Oculta", u"box5678 | c4 | c1"},
+    {u"Frente de Caixa",   false,      true,      u"A",   u"Caixa / Oculta", u"box5678 | c4 | c1"},
+    {u"Outro",             false,      false,     u"A",   u"Caixa / Oculta", u"box5678 | c4 | c1"}};
+// clang-format on
 
-TEST_P(KindOfOrderTest, ReadsTheFileOfItsFamily) {
+// A carton order keeps the caption of the hidden panel, an unknown kind the family.
+TEST_F(PedidoTest, EachKindReadsTheFileOfItsFamily) {
     file(u"77 FRENTE.TXT") = fileOf({u"", u"12;c1;c2;c3;c4;c5;box567890;c7;c8"});
     file(u"77 CORRUGADO.TXT") = fileOf({u"", u"12;c1;c2;c3;c4;c5;pack567890;c7;c8"});
     file(u"77 ACESSORIO.TXT") = fileOf({u"", u"12;c1;c2;c3;c4;c5;c6;loose67890;c8"});
-    load(tipo::oculta, u"77");
-    form.txtgrade1.locked = form.txtgrade2.locked = form.txttotgrade.locked = false;
-    load(GetParam().kind, u"77");
-    EXPECT_EQ((GetParam().corrugated ? form.cmb_referencia1 : form.cmb_referencia).entries,
-              std::vector<Text>{GetParam().key});
-    EXPECT_EQ(form.TipoArquivo, GetParam().family);
-    EXPECT_EQ(form.Frame1.caption, GetParam().caption);
-    EXPECT_EQ(form.Frame3.visible, GetParam().corrugated);
-    EXPECT_NE(form.Frame1.visible, GetParam().corrugated);
-    EXPECT_TRUE(form.txtgrade1.locked);
-    EXPECT_TRUE(form.txtgrade2.locked);
-    EXPECT_TRUE(form.txttotgrade.locked);
-    EXPECT_EQ(form.cmd_printacessorio.visible, GetParam().printable);
-}
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Kinds, KindOfOrderTest, testing::Values(
-    KindOfOrder{.name = "Accessory", .kind = u"Acessório", .family = u"C",
-                .key = u"loose67 | c3 | c1", .caption = u"Acessório"},
-    KindOfOrder{.name = "Corrugated", .kind = u"Corrugado", .family = u"B",
-                .key = u"pack567890 | c5 | c4", .corrugated = true},
-    KindOfOrder{.name = "Hidden", .kind = u"Oculta", .family = u"A",
-                .key = u"box5678 | c4 | c1"},
-    KindOfOrder{.name = "BoxFront", .kind = u"Frente de Caixa", .family = u"A",
-                .key = u"box5678 | c4 | c1"},
-    KindOfOrder{.name = "UnknownKeepsTheFamily", .kind = u"Outro", .family = u"A",
-                .key = u"box5678 | c4 | c1", .printable = false}), CaseName());
-// clang-format on
-
-TEST_F(PedidoTest, CorrugatedOrderKeepsTheCaptionOfTheOtherPanel) {
-    file(u"77 ACESSORIO.TXT") = file(u"77 CORRUGADO.TXT") = fileOf({u""});
-    load(tipo::acessorio, u"77");
-    load(tipo::corrugado, u"77");
-    EXPECT_EQ(form.Frame1.caption, u"Acessório");
+    for (const KindOfOrder& order : kinds_of_orders) {
+        SCOPED_TRACE(utf8(order.kind));
+        form.txtgrade1.locked = form.txtgrade2.locked = form.txttotgrade.locked = false;
+        load(order.kind, u"77");
+        EXPECT_EQ((order.corrugated ? form.cmb_referencia1 : form.cmb_referencia).entries,
+                  std::vector<Text>{Text(order.key)});
+        EXPECT_EQ(form.TipoArquivo, order.family);
+        EXPECT_EQ(form.Frame1.caption, order.caption);
+        EXPECT_EQ(form.Frame3.visible, order.corrugated);
+        EXPECT_NE(form.Frame1.visible, order.corrugated);
+        EXPECT_TRUE(form.txtgrade1.locked);
+        EXPECT_TRUE(form.txtgrade2.locked);
+        EXPECT_TRUE(form.txttotgrade.locked);
+        EXPECT_EQ(form.cmd_printacessorio.visible, order.printable);
+    }
 }
 
 struct OrderSearch {
-    std::string name;
-    Text folder, number, description, folder_after = u"/programa";
+    TextView number, folder, folder_after;
     std::size_t listed;
+    TextView found;
 };
 
-class OrderSearchTest : public testing::TestWithParam<OrderSearch>, protected Orders {};
+// clang-format off
+constexpr OrderSearch order_searches[] = {
+    // number        folder        folder after   files listed  file found
+    {u"77",          u"/pedidos",  u"/pedidos",   1,            u"77 FRENTE.txt"},
+    {u"1400050831",  u"/gone",     u"/programa",  2,            u"a 1400050831 frente.txt"},
+    {u" 1400 ",      u"/programa", u"/programa",  3,            u"a 1400050831 frente.txt"},
+    {u"",            u"  ",        u"/programa",  4,            u"a 1400050831 frente.txt"},
+    {u"b 14",        u"/programa", u"/programa",  1,            u"B 1400050831 FRENTE.TXT"},
+    {u"c*00 f ",     u"/programa", u"/programa",  1,            u"C 1400 Frente.txt"}};
+// clang-format on
 
-TEST_P(OrderSearchTest, TakesTheFirstFileOfTheFamily) {
+TEST_F(PedidoTest, FirstFileOfTheFamilyIsTaken) {
     for (const TextView name : {u"B 1400050831 FRENTE.TXT", u"a 1400050831 frente.txt",
                                 u"C 1400 Frente.txt", u"A 1400 FRENTE.bak", u"0 1500.txt"}) {
         file(name) = fileOf({u"", lineOf({.description = Text(name)})});
     }
-    machine.files.bytes[u"/pedidos/77 FRENTE.txt"] = fileOf({u"", lineOf({})});
-    form.lblpath.caption = GetParam().folder;
-    load(tipo::frente_de_caixa, GetParam().number);
-    EXPECT_EQ(form.txtdescricao.text, GetParam().description);
-    EXPECT_EQ(form.lblpath.caption, GetParam().folder_after);
-    EXPECT_EQ(form.filelist.entries.size(), GetParam().listed);
-    EXPECT_TRUE(
-        file(u"Varesko.ini").ends_with("[Config]\r\narquivo=" + utf8(GetParam().number) + "\r\n"));
+    machine.files.bytes[u"/pedidos/77 FRENTE.txt"] =
+        fileOf({u"", lineOf({.description = u"77 FRENTE.txt"})});
+    for (const OrderSearch& search : order_searches) {
+        SCOPED_TRACE(utf8(search.number));
+        form.lblpath.caption = search.folder;
+        load(tipo::frente_de_caixa, search.number);
+        EXPECT_EQ(form.txtdescricao.text, search.found);
+        EXPECT_EQ(form.lblpath.caption, search.folder_after);
+        EXPECT_EQ(form.filelist.entries.size(), search.listed);
+        EXPECT_TRUE(
+            file(u"Varesko.ini").ends_with("[Config]\r\narquivo=" + utf8(search.number) + "\r\n"));
+    }
 }
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Searches, OrderSearchTest, testing::Values(
-    OrderSearch{.name = "InTheFolder", .folder = u"/pedidos", .number = u"77",
-                .description = u"TENIS CASUAL", .folder_after = u"/pedidos", .listed = 1},
-    OrderSearch{.name = "FolderThatIsGone", .folder = u"/gone", .number = u"1400050831",
-                .description = u"a 1400050831 frente.txt", .listed = 2},
-    OrderSearch{.name = "PartOfANumber", .folder = u"/programa", .number = u" 1400 ",
-                .description = u"a 1400050831 frente.txt", .listed = 3},
-    OrderSearch{.name = "NoNumber", .folder = u"  ", .number = u"",
-                .description = u"a 1400050831 frente.txt", .listed = 4},
-    OrderSearch{.name = "InAnyCase", .folder = u"/programa", .number = u"b 14",
-                .description = u"B 1400050831 FRENTE.TXT", .listed = 1},
-    OrderSearch{.name = "Pattern", .folder = u"/programa", .number = u"c*00 f ",
-                .description = u"C 1400 Frente.txt", .listed = 1}), CaseName());
-// clang-format on
 
 TEST_F(PedidoTest, HeaderTellsTheBannerEvenWithoutItems) {
     form.txtdescricao.text = u"kept";
     struct Order {
-        std::vector<Text> lines;
         TextView banner;
+        std::vector<Text> lines;
     };
     for (const Order& order :
-         {Order{.lines = {u"PEDIDO BRISA KO"}, .banner = u"BRISA KO"},
-          Order{.lines = {u"x brisako;", Text(9, u'\0'), Text(9999, u';')}, .banner = u"BRISA KO"},
-          Order{.lines = {u"Brisa Ko", u"", u" "}, .banner = u"BRISA KO"},
-          Order{.lines = {u"BRISA  KO"}, .banner = u"LUMIRA"},
-          Order{.lines = {u""}, .banner = u"LUMIRA"}}) {
+         {Order{u"BRISA KO", {u"PEDIDO BRISA KO"}},
+          Order{u"BRISA KO", {u"x brisako;", Text(9, u'\0'), Text(9999, u';')}},
+          Order{u"BRISA KO", {u"Brisa Ko", u"", u" "}}, Order{u"LUMIRA", {u"BRISA  KO"}},
+          Order{u"LUMIRA", {u""}}}) {
         loadHidden(order.lines);
         EXPECT_EQ(form.LBLBRISAKO.caption, order.banner) << utf8(order.lines[0]);
         EXPECT_TRUE(form.LBLBRISAKO.visible) << utf8(order.lines[0]);

@@ -1,6 +1,8 @@
 #include "workbench/Saida.h"
 
 #include "support/FakePlatform.h"
+#include "support/Golden.h"
+#include "support/ProgramGolden.h"
 #include "support/SettingsText.h"
 
 #include <gtest/gtest.h>
@@ -15,14 +17,7 @@ TEST_F(SaidaTest, SixFieldsAreStoredBeforeTheEnd) {
     form.cmbintensidade.text = u"i";
     form.cmbvelocidade.text = u"v";
     cmd_sair_click(form);
-    EXPECT_EQ(machine.files.bytes[settings_file], settingsBytes(uR"([Config]
-Referencia=AÇO
-arquivo=1400050831
-Lote=5
-Intensidade=i
-Velocidade=v
-Tipo=Frente de Caixa
-)"));
+    EXPECT_TRUE(matchesGolden(programLines(machine.files.bytes[settings_file]), "saida"));
     EXPECT_EQ(machine.log.back(), "exit");
 }
 
