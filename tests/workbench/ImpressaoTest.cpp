@@ -17,9 +17,13 @@ TEST_F(ImpressaoTest, ClosesTheMarginDialogs) {
     EXPECT_FALSE(form.FrmMargensPackZPL.open);
 }
 
-TEST_F(ImpressaoTest, ItemStaysOnNo) {
+TEST_F(ImpressaoTest, ItemStaysOnNoAndWhereNoneIsChosen) {
     print(Answer::no);
     EXPECT_EQ(form.txtcodigo.text, u"3104527");
+    expectLeft(2, 3);
+    form.cmb_referencia.type(u"3104527 | TENIS CASUAL | AZUL");
+    print(Answer::yes);
+    EXPECT_EQ(form.txtcodigo.text, u"");
     expectLeft(2, 3);
 }
 
@@ -42,13 +46,6 @@ TEST_F(ImpressaoTest, ItemsFollowOnYesAndTheLastLeavesSlotsAndPromotion) {
     EXPECT_EQ(form.txtpromocao.text, u"OFERTA");
 }
 
-TEST_F(ImpressaoTest, NoItemLeavesTheListWhereNoneIsChosen) {
-    form.cmb_referencia.type(u"3104527 | TENIS CASUAL | AZUL");
-    print(Answer::yes);
-    EXPECT_EQ(form.txtcodigo.text, u"");
-    expectLeft(2, 3);
-}
-
 TEST_F(ImpressaoTest, FirstItemFollowsTheSecond) {
     form.cmb_referencia.choose(1);
     print(Answer::yes);
@@ -56,12 +53,6 @@ TEST_F(ImpressaoTest, FirstItemFollowsTheSecond) {
     EXPECT_EQ(form.List1.entries,
               (std::vector<Text>{lineOf({.quantity = u"1"}),
                                  lineOf({.quantity = u"1", .colour = u"RUBRO"})}));
-}
-
-TEST_F(ImpressaoTest, UnknownKindIsOnlyAskedAbout) {
-    form.cmbtipo.type(u"Outro");
-    print();
-    EXPECT_EQ(machine.transcript, Log{closing_question});
 }
 
 TEST_F(ImpressaoTest, CartonsAreOnTheirPanelAndTheKindDecidesWhichItemIsNext) {
@@ -73,7 +64,10 @@ TEST_F(ImpressaoTest, CartonsAreOnTheirPanelAndTheKindDecidesWhichItemIsNext) {
     EXPECT_EQ(form.cmb_referencia.entries.size(), 1U);
 }
 
-TEST_F(ImpressaoTest, KindOfCartonsOnTheOtherPanelPrintsNothing) {
+TEST_F(ImpressaoTest, UnknownKindAndCartonsOnTheOtherPanelAreOnlyAskedAbout) {
+    form.cmbtipo.type(u"Outro");
+    print();
+    EXPECT_EQ(machine.transcript, Log{closing_question});
     load(tipo::corrugado);
     load(tipo::oculta);
     form.cmbtipo.type(Text(tipo::corrugado));
