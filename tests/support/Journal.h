@@ -35,22 +35,20 @@ struct Journal {
     /// What came to the printers and to the operator, in the words of the golden files.
     Log transcript;
 
+    /// Refuses a step of this word, if it is a failing one.
     void attempt(const std::string& word) const {
         if (failing.contains(word)) {
             throw refusal();
         }
     }
-    template <typename... Parts>
-    void note(const std::string& word, const Parts&... parts) {
+    /// Logs a step, or refuses it.
+    void note(const std::string& word, const auto&... parts) {
         attempt(word);
         log.push_back(lineOfWords(word, parts...));
     }
-    template <typename... Parts>
-    void tell(const Parts&... parts) {
-        transcript.push_back(lineOfWords(parts...));
-    }
-    template <typename... Parts>
-    void tellStep(const std::string& word, const Parts&... parts) {
+    void tell(const auto&... parts) { transcript.push_back(lineOfWords(parts...)); }
+    /// Adds a line to the transcript for a step of this word, or refuses the step.
+    void tellStep(const std::string& word, const auto&... parts) {
         attempt(word);
         tell(parts...);
     }
@@ -65,8 +63,7 @@ struct Journal {
     }
 
     /// The lines of the transcript that hold one of these pieces.
-    template <typename... Pieces>
-    [[nodiscard]] Log told(const Pieces&... pieces) const {
+    [[nodiscard]] Log told(const auto&... pieces) const {
         Log lines = transcript;
         std::erase_if(lines, [&](const std::string& line) {
             return ((line.find(pieces) == std::string::npos) && ...);
@@ -80,8 +77,7 @@ struct Journal {
     }
 
   private:
-    template <typename... Parts>
-    static std::string lineOfWords(const std::string& word, const Parts&... parts) {
+    static std::string lineOfWords(const std::string& word, const auto&... parts) {
         std::ostringstream line;
         line << word;
         ((line << ' ' << parts), ...);
