@@ -1,15 +1,10 @@
 #include "labels/Cabecalho.h"
 
-#include "support/FakePlatform.h"
-#include "support/Golden.h"
-
-#include <gtest/gtest.h>
+#include "labels/LabelTest.h"
 
 namespace etiquetas::test {
 
-namespace {
-
-class CabecalhoTest : public testing::Test, protected Workbench {};
+class CabecalhoTest : public LabelTest {};
 
 TEST_F(CabecalhoTest, StripOfEachType) {
     form.Margem_oculta1 = 3;
@@ -25,7 +20,5 @@ TEST_F(CabecalhoTest, StripOfEachType) {
     }
     EXPECT_TRUE(matchesGolden(machine.transcript, "cabecalho"));
 }
-
-} // namespace
 
 } // namespace etiquetas::test

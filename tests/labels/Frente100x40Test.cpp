@@ -1,13 +1,8 @@
 #include "labels/Frente100x40.h"
 
-#include "support/FakePlatform.h"
-#include "support/Golden.h"
-
-#include <gtest/gtest.h>
+#include "labels/LabelTest.h"
 
 namespace etiquetas::test {
-
-namespace {
 
 struct WideLabel {
     Text description = u"TENIS CASUAL DE COURO COM CADARCO";
@@ -15,17 +10,13 @@ struct WideLabel {
     std::int16_t quantity = 1;
 };
 
-class Frente100x40Test : public testing::Test, protected Workbench {
+class Frente100x40Test : public LabelTest {
   protected:
     Frente100x40Test() {
-        takeLogos();
         takePhotograph();
-        knowEanBars(u"204455667788");
         form.NomeFonte = u"Corpo";
         form.PackLinhaX = 1;
         form.PackLinhaY = 2;
-        machine.printers.ScaleMode(ScaleMode::millimetres);
-        machine.forget();
     }
 
     void draw(const WideLabel& label) {
@@ -48,40 +39,21 @@ TEST_F(Frente100x40Test, WithoutPhotographSizeAndPrice) {
     EXPECT_TRUE(matchesGolden(machine.transcript, "frente-100x40-simples"));
 }
 
-TEST_F(Frente100x40Test, NoLabelForNoQuantity) {
+TEST_F(Frente100x40Test, NoQuantityOrARefusedBarcode) {
     draw({.quantity = 0});
     EXPECT_EQ(machine.transcript, Log{"unit millimetres"});
-}
-
-TEST_F(Frente100x40Test, RefusedBarcodeEndsTheDrawingBeforeItsBars) {
-    EXPECT_EQ(failureTextOf([&] { draw({.barcode = u"20445566778", .quantity = 2}); }),
-              "80040201 EAN-13: Should be 12 Digit Numbers");
+    EXPECT_THROW(draw({.barcode = refused_barcode, .quantity = 2}), Failure);
     EXPECT_EQ(machine.transcript.back(), "unit pixels");
 }
 
-struct WideBreak {
-    Text description, line_1, line_2;
-};
-
 // At 11 points 31 characters are 48,7 mm wide, and 32 are 50,3.
 TEST_F(Frente100x40Test, DescriptionIsBrokenAtTheLastBlank) {
-    const Text a28(28, u'A'), a29(29, u'A'), a31(31, u'A'), a32(32, u'A');
-    const auto line = [](const std::string& place, TextView text) {
-        return text.empty() ? Log{} : Log{"text 6,0 " + place + " Corpo 11 bold " + inQuotes(text)};
-    };
-    for (const auto& [description, line_1, line_2] :
-         {WideBreak{u"A " + a29, u"A " + a29, u""}, WideBreak{a32, a32, u""},
-          WideBreak{a32 + u" 7", a32, u"7"}, WideBreak{u"A " + a29 + u" 7", u"A " + a29, u"7"},
-          WideBreak{u"A B " + a31 + u" C", u"A B", a31 + u" C"},
-          WideBreak{u"A-B/" + a31, u"A-B/" + a28, u"AAA"}}) {
-        SCOPED_TRACE(utf8(description));
-        machine.forget();
+    const Text a29(29, u'A'), a31(31, u'A'), a32(32, u'A');
+    for (const Text& description : {u"A " + a29, a32, a32 + u" 7", u"A " + a29 + u" 7",
+                                    u"A B " + a31 + u" C", u"A-B/" + a31}) {
         draw({.description = description});
-        EXPECT_EQ(machine.told("text 6,0 7,0 "), line("7,0", line_1));
-        EXPECT_EQ(machine.told("text 6,0 12,0 "), line("12,0", line_2));
     }
+    EXPECT_TRUE(matchesGolden(machine.told("text 6,0 "), "frente-100x40-quebras"));
 }
-
-} // namespace
 
 } // namespace etiquetas::test

@@ -7,22 +7,8 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <string>
-#include <vector>
 
 namespace etiquetas::test {
-
-/// A picture as rows of "#" and blanks.
-using Rows = std::vector<std::string>;
-
-inline Rows rowsOf(const Picture& picture) {
-    Rows rows(static_cast<std::size_t>(picture->height));
-    for (std::size_t i = 0; i < picture->pixels.size(); ++i) {
-        rows[i / static_cast<std::size_t>(picture->width)] +=
-            picture->pixels[i] == black_pixel ? '#' : ' ';
-    }
-    return rows;
-}
 
 /// Files in memory, with names that are exact in their case, and the pictures in them: a file that
 /// begins with "JPEG" is one. Letters are black boxes of 6 by 10 pixels.
@@ -65,13 +51,10 @@ struct FakeFiles final : Files, Pictures, Fake {
         return read(path).starts_with("JPEG") ? std::make_shared<const Raster>() : throw refusal();
     }
     Raster text(TextView text) override {
-        constexpr int letter_width = 6;
-        constexpr int letter_height = 10;
         journal.note("letters", utf8(text));
-        const int width = letter_width * static_cast<int>(text.size());
-        const int pixels = width * letter_height;
-        return {width, letter_height,
-                std::vector<Pixel>(static_cast<std::size_t>(pixels), black_pixel)};
+        const std::size_t width = 6 * text.size();
+        constexpr std::size_t height = 10;
+        return {static_cast<int>(width), height, std::vector<Pixel>(width * height, black_pixel)};
     }
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "barcodes/Code39.h"
 #include "barcodes/EAN13and8.h"
 #include "model/FrmPadrao.h"
 #include "support/Failures.h"
@@ -31,34 +32,33 @@ struct Workbench {
     FakePlatform machine;
     FrmPadrao form{machine.platform()};
 
-    /// Logos of 1 by 2 pixels (BRISA KO) and of 3 by 4 (LUMIRA).
     void takeLogos() {
-        form.pctlogo1.picture = knownPicture({1, 2, {}}, "logo brisa ko");
-        form.pctlogo2.picture = knownPicture({3, 4, {}}, "logo lumira");
+        form.pctlogo1.picture = know({1, 1, {1}}, "logo brisa ko");
+        form.pctlogo2.picture = know({1, 1, {2}}, "logo lumira");
         form.LogoBrisakoOk = form.LogoLumiraOk = true;
     }
-
-    /// A photograph of the item, of 5 by 6 pixels.
     void takePhotograph() {
-        form.pctimage.picture = knownPicture({5, 6, {}}, "photograph");
+        form.pctimage.picture = know({1, 1, {3}}, "photograph");
         form.tem_imagem = true;
     }
 
     /// From here on the transcript tells these bars by their code.
-    void knowBars(const Picture& bars, TextView code) {
-        machine.printers.known_pictures.push_back({bars, "bars", " " + inQuotes(code)});
-    }
+    void knowBars(const Picture& bars, TextView code) { know(*bars, "bars", " " + inQuotes(code)); }
     void knowEanBars(TextView twelve_digits) {
         PictureBox box(machine.pictures);
         DesenhaEan13(box, 1, twelve_digits, false);
         knowBars(box.Picture(), twelve_digits);
     }
+    void knowCode39Bars(Text code) {
+        PictureBox box(machine.pictures);
+        DesenhaCode39(box, 1, code, false, false);
+        knowBars(box.Picture(), code);
+    }
 
   private:
-    Picture knownPicture(Raster raster, const std::string& name) {
-        auto picture = std::make_shared<const Raster>(std::move(raster));
-        machine.printers.known_pictures.push_back({picture, name, {}});
-        return picture;
+    Picture know(const Raster& raster, const std::string& name, const std::string& text = {}) {
+        machine.printers.known_pictures[raster.pixels] = {name, text};
+        return std::make_shared<Raster>(raster);
     }
 };
 

@@ -6,22 +6,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iomanip>
-#include <sstream>
-#include <string>
-#include <vector>
+#include <map>
 
 namespace etiquetas::test {
 
-/// A number with a decimal comma, to the hundredth, without zeros at its end.
+/// A number with a decimal comma, to the hundredth.
 inline std::string decimal(float value) {
     std::ostringstream digits;
-    digits << std::fixed << std::setprecision(2) << value;
+    digits << std::round(value * 100) / 100;
     std::string text = digits.str();
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.back() == '.') {
-        text.pop_back();
-    }
     std::replace(text.begin(), text.end(), '.', ',');
     return text;
 }
@@ -32,19 +25,13 @@ inline std::string measure(float value) {
     return text.find(',') == std::string::npos ? text + ",0" : text;
 }
 
-/// A picture that the transcript knows by its pixels: what it is, and what it says.
+/// What a picture is, and what it says, if anything.
 struct KnownPicture {
-    Picture picture;
-    std::string name;
-    std::string text; // empty where it says nothing
+    std::string name = "unknown picture", text;
 };
 
-inline bool samePixels(const Raster& one, const Raster& other) {
-    return one.width == other.width && one.height == other.height && one.pixels == other.pixels;
-}
-
-/// Printers and what they draw on. The surface keeps its state as a real one does; the log lines
-/// tell the state that a text has. Sizes are held in steps of `size_step`, or any where that is 0.
+/// Printers and what they draw on. The surface keeps its state as a real one does; the transcript
+/// tells the state that a text has. Sizes are held in steps of `size_step`, or any where that is 0.
 struct FakePrinters final : Printers, PrintSurface, Fake {
     using Fake::Fake;
 
@@ -53,17 +40,14 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
                             u"Estrangelo Edessa"};
     std::string face, weight = "plain", unit;
     float points = 0, x = 0, y = 0, size_step = 0;
-    std::vector<KnownPicture> known_pictures;
+    std::map<std::vector<Pixel>, KnownPicture> known_pictures; // by their pixels
 
     std::vector<Text> names() const override {
         journal.note("printers");
         return devices;
     }
     Text defaultName() const override { return u"Papel"; }
-    void makeCurrent(std::size_t at) override {
-        journal.note("printer", utf8(devices.at(at)));
-        journal.tell("printer", utf8(devices.at(at)));
-    }
+    void makeCurrent(std::size_t at) override { journal.tell("printer", utf8(devices.at(at))); }
 
     void FontName(TextView name) override { face = utf8(name); }
     void FontSize(float size) override {
@@ -74,26 +58,14 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
     void CurrentX(float at) override { x = at; }
     void CurrentY(float at) override { y = at; }
     void ScaleMode(etiquetas::ScaleMode mode) override {
-        const bool millimetres = mode == ScaleMode::millimetres;
-        unit = millimetres ? "mm" : "pixels";
-        journal.note("unit", unit);
-        journal.tell("unit", millimetres ? "millimetres" : "pixels");
+        unit = mode == ScaleMode::millimetres ? "millimetres" : "pixels";
+        journal.tell("unit", unit);
     }
-    void PaperSize(int kind) override {
-        journal.note("paper", kind);
-        journal.tell("paper", kind);
-    }
-    void Width(int twips) override {
-        journal.note("width", twips);
-        journal.tell("page width", twips, "twips");
-    }
-    void Height(int twips) override {
-        journal.note("height", twips);
-        journal.tell("page height", twips, "twips");
-    }
-    /// An empty text leaves no line in the transcript, since it draws nothing.
+    void PaperSize(int kind) override { journal.tellStep("paper", "paper", kind); }
+    void Width(int twips) override { journal.tellStep("width", "page width", twips, "twips"); }
+    void Height(int twips) override { journal.tellStep("height", "page height", twips, "twips"); }
+    /// An empty text leaves no line, since it draws nothing.
     void Print(TextView text) override {
-        journal.note("print", face, points, weight, "at", x, y, unit, utf8(text));
         if (!text.empty()) {
             journal.tell("text", measure(x), measure(y), face, decimal(points), weight,
                          inQuotes(text));
@@ -109,9 +81,7 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
     }
     void Line(int flags, float x1, float y1, float x2, float y2, Pixel colour) override {
         const bool is_rule = flags == filled_box && colour == black_pixel;
-        const std::string kind = is_rule ? "rule" : "line";
-        journal.note(kind, x1, y1, x2, y2, unit);
-        journal.tell(kind, measure(x1), measure(y1), measure(x2), measure(y2));
+        journal.tell(is_rule ? "rule" : "line", measure(x1), measure(y1), measure(x2), measure(y2));
     }
     using PrintSurface::PaintPicture;
     void PaintPicture(const Picture& picture, float left, float top, float width, float height,
@@ -123,20 +93,16 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
         if (source.width) {
             crop += " first " + decimal(*source.width) + " pixels";
         }
-        journal.note("stamp", picture->width, picture->height, left, top, width, height,
-                     unit + crop);
-        const KnownPicture known = recognised(picture);
-        journal.tell(known.name, measure(left), measure(top), measure(width),
-                     measure(height) + crop + known.text);
+        const auto known = known_pictures.find(picture->pixels);
+        const auto [name, text] = known == known_pictures.end() ? KnownPicture{} : known->second;
+        journal.tell(name, measure(left), measure(top), measure(width),
+                     measure(height) + crop + text);
     }
     void NewPage() override {
         journal.note("page");
         journal.tell("page");
     }
-    void EndDoc() override {
-        journal.note("end");
-        journal.tell("end of job");
-    }
+    void EndDoc() override { journal.tellStep("end", "end of job"); }
     std::size_t FontCount() const override {
         journal.note("faces");
         return faces.size();
@@ -149,14 +115,6 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
             return 0.84F;
         }
         return face == "Malgun Gothic Semilight" ? 1.05F : 1.0F;
-    }
-
-    [[nodiscard]] KnownPicture recognised(const Picture& picture) const {
-        const auto known =
-            std::find_if(known_pictures.begin(), known_pictures.end(),
-                         [&](const auto& one) { return samePixels(*one.picture, *picture); });
-        return known == known_pictures.end() ? KnownPicture{picture, "unknown picture", {}}
-                                             : *known;
     }
 };
 

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -29,68 +28,24 @@ inline std::vector<GoldenLine> goldenLines(const std::string& path) {
     return lines;
 }
 
-/// A place in the golden file and one among the lines drawn, both counted from 0.
-struct Places {
-    std::size_t expected;
-    std::size_t drawn;
-};
-
-/// The nearest places, from these on, where both have the same line; both ends where there are
-/// none.
-inline Places nextAgreement(const std::vector<GoldenLine>& expected,
-                            const std::vector<std::string>& drawn, const Places& from) {
-    const std::size_t farthest = expected.size() + drawn.size() - from.expected - from.drawn;
-    for (std::size_t distance = 0; distance < farthest; ++distance) {
-        for (std::size_t missing = 0; missing <= distance; ++missing) {
-            const Places at{from.expected + missing, from.drawn + distance - missing};
-            if (at.expected < expected.size() && at.drawn < drawn.size() &&
-                expected[at.expected].text == drawn[at.drawn]) {
-                return at;
-            }
-        }
-    }
-    return {expected.size(), drawn.size()};
-}
-
-/// How lines differ from those of a golden file, line by line; empty where they don't.
-inline std::string differences(const std::vector<GoldenLine>& expected,
-                               const std::vector<std::string>& drawn) {
-    std::ostringstream report;
-    std::size_t last_number = 0;
-    Places at{};
-    while (at.expected < expected.size() || at.drawn < drawn.size()) {
-        const Places next = nextAgreement(expected, drawn, at);
-        for (; at.expected < next.expected; ++at.expected) {
-            const GoldenLine& line = expected[at.expected];
-            const bool is_changed = at.drawn < next.drawn;
-            report << "line " << line.number << (is_changed ? ": expected " : ": missing  ")
-                   << line.text << '\n';
-            if (is_changed) {
-                report << "line " << line.number << ": drawn    " << drawn[at.drawn++] << '\n';
-            }
-            last_number = line.number;
-        }
-        for (; at.drawn < next.drawn; ++at.drawn) {
-            report << "after line " << last_number << ": extra " << drawn[at.drawn] << '\n';
-        }
-        last_number = next.expected < expected.size() ? expected[next.expected].number : 0;
-        at = {next.expected + 1, next.drawn + 1};
-    }
-    return report.str();
-}
-
-/// Whether lines are those of the golden file of this name.
-inline testing::AssertionResult matchesGolden(const std::vector<std::string>& drawn,
+/// Whether lines are those of the golden file of this name; tells the first one that is not.
+inline testing::AssertionResult matchesGolden(const std::vector<std::string>& lines,
                                               const std::string& name) {
     const std::string path = ETIQUETAS_GOLDENS "/" + name + ".txt";
-    const std::vector<GoldenLine> expected = goldenLines(path);
-    if (expected.empty()) {
+    const std::vector<GoldenLine> golden = goldenLines(path);
+    if (golden.empty()) {
         return testing::AssertionFailure() << path << " is missing or empty";
     }
-    const std::string report = differences(expected, drawn);
-    return report.empty() ? testing::AssertionSuccess()
-                          : testing::AssertionFailure() << path << '\n'
-                                                        << report;
+    auto line = lines.begin();
+    for (const GoldenLine& expected : golden) {
+        const std::string actual = line == lines.end() ? "<nothing>" : *line++;
+        if (actual != expected.text) {
+            return testing::AssertionFailure() << path << ':' << expected.number << "\nexpected "
+                                               << expected.text << "\n     got " << actual;
+        }
+    }
+    return line == lines.end() ? testing::AssertionSuccess()
+                               : testing::AssertionFailure() << path << " ends before " << *line;
 }
 
 } // namespace etiquetas::test

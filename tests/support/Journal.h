@@ -4,7 +4,6 @@
 #include "base/Text.h"
 
 #include <filesystem>
-#include <iomanip>
 #include <set>
 #include <sstream>
 #include <string>
@@ -14,6 +13,11 @@ namespace etiquetas::test {
 
 inline std::string utf8(TextView text) {
     return std::filesystem::path(text).string();
+}
+
+/// A text as the transcript has it.
+inline std::string inQuotes(TextView text) {
+    return '"' + utf8(text) + '"';
 }
 
 inline Failure refusal() {
@@ -31,23 +35,25 @@ struct Journal {
     /// What came to the printers and to the operator, in the words of the golden files.
     Log transcript;
 
-    /// Logs a step, or refuses it. Five digits, so that what binary fractions leave behind does not
-    /// show.
-    template <typename... Parts>
-    void note(const std::string& word, const Parts&... parts) {
+    /// Refuses a step of this word, if it is a failing one.
+    void attempt(const std::string& word) const {
         if (failing.contains(word)) {
             throw refusal();
         }
+    }
+    /// Logs a step, or refuses it.
+    void note(const std::string& word, const auto&... parts) {
+        attempt(word);
         log.push_back(lineOfWords(word, parts...));
     }
-
-    /// Adds a line to the transcript, with blanks between its words.
-    template <typename... Parts>
-    void tell(const std::string& word, const Parts&... parts) {
-        transcript.push_back(lineOfWords(word, parts...));
+    void tell(const auto&... parts) { transcript.push_back(lineOfWords(parts...)); }
+    /// Adds a line to the transcript for a step of this word, or refuses the step.
+    void tellStep(const std::string& word, const auto&... parts) {
+        attempt(word);
+        tell(parts...);
     }
 
-    /// The lines that begin with one of these words.
+    /// The lines of the log that begin with one of these words.
     [[nodiscard]] Log logged(const std::set<std::string>& words) const {
         Log lines = log;
         std::erase_if(lines, [&](const std::string& line) {
@@ -56,11 +62,12 @@ struct Journal {
         return lines;
     }
 
-    /// The lines of the transcript that hold a piece.
-    [[nodiscard]] Log told(const std::string& piece) const {
+    /// The lines of the transcript that hold one of these pieces.
+    [[nodiscard]] Log told(const auto&... pieces) const {
         Log lines = transcript;
-        std::erase_if(
-            lines, [&](const std::string& line) { return line.find(piece) == std::string::npos; });
+        std::erase_if(lines, [&](const std::string& line) {
+            return ((line.find(pieces) == std::string::npos) && ...);
+        });
         return lines;
     }
 
@@ -70,10 +77,9 @@ struct Journal {
     }
 
   private:
-    template <typename... Parts>
-    static std::string lineOfWords(const std::string& word, const Parts&... parts) {
+    static std::string lineOfWords(const std::string& word, const auto&... parts) {
         std::ostringstream line;
-        line << std::setprecision(5) << word;
+        line << word;
         ((line << ' ' << parts), ...);
         return line.str();
     }
@@ -85,10 +91,5 @@ struct Fake {
 
     Journal& journal;
 };
-
-/// A text as the transcript has it.
-inline std::string inQuotes(TextView text) {
-    return '"' + utf8(text) + '"';
-}
 
 } // namespace etiquetas::test

@@ -4,21 +4,12 @@
 #include "workbench/Impressao.h"
 #include "workbench/Pedido.h"
 
-#include <string>
-#include <vector>
+#include <gtest/gtest.h>
 
 namespace etiquetas::test {
 
 /// What the operator is asked after each job, as the transcript has it.
 inline const std::string closing_question = R"(message question yes/no "A Impressão está OK")";
-
-/// How many items and lines of an order are left.
-struct OrderLeft {
-    std::size_t items;
-    std::size_t lines;
-
-    friend bool operator==(const OrderLeft&, const OrderLeft&) = default;
-};
 
 /// The window with both logos and a printer chosen, for an order of two items of each family. The
 /// first box item has two sizes.
@@ -62,9 +53,10 @@ struct PrintWorkbench : LoadedWorkbench {
         cmd_printacessorio_click(form);
     }
 
-    /// The list of the kinds but cartons.
-    [[nodiscard]] OrderLeft left() const {
-        return {form.cmb_referencia.entries.size(), form.List1.entries.size()};
+    /// What is left of an order of a kind but cartons.
+    void expectLeft(std::size_t items, std::size_t lines) const {
+        EXPECT_EQ(form.cmb_referencia.entries.size(), items);
+        EXPECT_EQ(form.List1.entries.size(), lines);
     }
 };
 

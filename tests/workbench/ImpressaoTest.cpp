@@ -1,10 +1,6 @@
 #include "support/PrintWorkbench.h"
 
-#include <gtest/gtest.h>
-
 namespace etiquetas::test {
-
-namespace {
 
 class ImpressaoTest : public testing::Test, protected PrintWorkbench {
   protected:
@@ -21,40 +17,33 @@ TEST_F(ImpressaoTest, ClosesTheMarginDialogs) {
     EXPECT_FALSE(form.FrmMargensPackZPL.open);
 }
 
-TEST_F(ImpressaoTest, NextItemOnYes) {
+TEST_F(ImpressaoTest, ItemStaysOnNoAndWhereNoneIsChosen) {
+    print(Answer::no);
+    EXPECT_EQ(form.txtcodigo.text, u"3104527");
+    expectLeft(2, 3);
+    form.cmb_referencia.type(u"3104527 | TENIS CASUAL | AZUL");
     print(Answer::yes);
-    EXPECT_EQ(left(), (OrderLeft{.items = 1, .lines = 2}));
-    // Of the lines the one at the item's position has gone.
+    EXPECT_EQ(form.txtcodigo.text, u"");
+    expectLeft(2, 3);
+}
+
+// Of the lines the one at the item's position goes.
+TEST_F(ImpressaoTest, ItemsFollowOnYesAndTheLastLeavesSlotsAndPromotion) {
+    print(Answer::yes);
+    expectLeft(1, 2);
     EXPECT_EQ(form.List1.text, lineOf({.quantity = u"1", .size = u"35"}));
     EXPECT_EQ(form.cmb_referencia.text, u"3104527 | TENIS CASUAL | RUBRO");
     EXPECT_EQ(form.txtcor.text, u"RUBRO");
     EXPECT_EQ(form.txtnumero[0].text, u"1");
     EXPECT_EQ(form.txtnumero[1].text, u"");
-}
-
-TEST_F(ImpressaoTest, FieldsAreEmptyAfterTheLastItemButForSlotsAndPromotion) {
     print(Answer::yes);
-    print(Answer::yes);
-    EXPECT_EQ(left(), (OrderLeft{.items = 0, .lines = 1}));
+    expectLeft(0, 1);
     for (const TextField* field : {&form.txtcodigo, &form.txtcor, &form.txtsemana,
                                    &form.txtbandeira, &form.txtpreco, &form.txtdescricao}) {
         EXPECT_EQ(field->text, u"") << utf8(field->caption);
     }
     EXPECT_EQ(form.txtnumero[0].text, u"1");
     EXPECT_EQ(form.txtpromocao.text, u"OFERTA");
-}
-
-TEST_F(ImpressaoTest, ItemStaysOnNo) {
-    print(Answer::no);
-    EXPECT_EQ(form.txtcodigo.text, u"3104527");
-    EXPECT_EQ(left(), (OrderLeft{.items = 2, .lines = 3}));
-}
-
-TEST_F(ImpressaoTest, NoItemLeavesTheListWhereNoneIsChosen) {
-    form.cmb_referencia.type(u"3104527 | TENIS CASUAL | AZUL");
-    print(Answer::yes);
-    EXPECT_EQ(form.txtcodigo.text, u"");
-    EXPECT_EQ(left(), (OrderLeft{.items = 2, .lines = 3}));
 }
 
 TEST_F(ImpressaoTest, FirstItemFollowsTheSecond) {
@@ -66,12 +55,6 @@ TEST_F(ImpressaoTest, FirstItemFollowsTheSecond) {
                                  lineOf({.quantity = u"1", .colour = u"RUBRO"})}));
 }
 
-TEST_F(ImpressaoTest, UnknownKindIsOnlyAskedAbout) {
-    form.cmbtipo.type(u"Outro");
-    print();
-    EXPECT_EQ(machine.transcript, Log{closing_question});
-}
-
 TEST_F(ImpressaoTest, CartonsAreOnTheirPanelAndTheKindDecidesWhichItemIsNext) {
     load(tipo::corrugado);
     form.cmbtipo.type(Text(tipo::oculta));
@@ -81,7 +64,10 @@ TEST_F(ImpressaoTest, CartonsAreOnTheirPanelAndTheKindDecidesWhichItemIsNext) {
     EXPECT_EQ(form.cmb_referencia.entries.size(), 1U);
 }
 
-TEST_F(ImpressaoTest, KindOfCartonsOnTheOtherPanelPrintsNothing) {
+TEST_F(ImpressaoTest, UnknownKindAndCartonsOnTheOtherPanelAreOnlyAskedAbout) {
+    form.cmbtipo.type(u"Outro");
+    print();
+    EXPECT_EQ(machine.transcript, Log{closing_question});
     load(tipo::corrugado);
     load(tipo::oculta);
     form.cmbtipo.type(Text(tipo::corrugado));
@@ -98,45 +84,28 @@ TEST_F(ImpressaoTest, NoItemIsLoadedUnderTheCaptionOfCartons) {
     EXPECT_EQ(form.txtcor.text, u"");
 }
 
-struct UnsoundItem {
-    std::string name;
-    TextView kind;
-    Text key, line, code;
-};
-
-class ImpressaoUnsoundItemTest : public testing::TestWithParam<UnsoundItem>,
-                                 protected PrintWorkbench {
-  protected:
-    ImpressaoUnsoundItemTest() { load(GetParam().kind); }
-
-    const bool carton = GetParam().kind == tipo::corrugado;
-    ListField& items = carton ? form.cmb_referencia1 : form.cmb_referencia;
-};
-
-TEST_P(ImpressaoUnsoundItemTest, MissingLineIsPassedOver) {
+TEST_F(ImpressaoTest, NextItemWithoutItsLineIsPassedOver) {
+    load(tipo::frente_de_caixa);
     form.List1.clear();
-    EXPECT_EQ(failureOf([&] { print(Answer::yes); }), 0);
-    EXPECT_EQ(items.entries.size(), 1U);
-}
-
-TEST_P(ImpressaoUnsoundItemTest, LoadThatFailsIsPassedOver) {
-    items.entries[1] = GetParam().key;
-    form.List1.entries = {u"", GetParam().line};
-    EXPECT_EQ(failureOf([&] { print(Answer::yes); }), 0);
-    EXPECT_EQ((carton ? form.txtcodigo1 : form.txtcodigo).text, GetParam().code);
+    print(Answer::yes);
+    EXPECT_EQ(form.cmb_referencia.entries.size(), 1U);
+    load(tipo::corrugado);
+    form.List1.clear();
+    print(Answer::yes);
+    EXPECT_EQ(form.cmb_referencia1.entries.size(), 1U);
 }
 
 // A quantity beyond 16 bits, and a volume that is no number.
-INSTANTIATE_TEST_SUITE_P(
-    , ImpressaoUnsoundItemTest,
-    testing::Values(UnsoundItem{"Box", tipo::frente_de_caixa, u"3104527 | TENIS CASUAL | RUBRO",
-                                lineOf({.quantity = u"40000", .colour = u"RUBRO"}), u"3104527"},
-                    UnsoundItem{
-                        "Carton", tipo::corrugado, u"20 | BOTA | AZUL",
-                        cartonLineOf({.master = u"M2", .description = u"BOTA", .volumes = u"8/x"}),
-                        u"M2"}),
-    [](const auto& row) { return row.param.name; });
-
-} // namespace
+TEST_F(ImpressaoTest, NextItemThatFailsToLoadIsPassedOver) {
+    load(tipo::frente_de_caixa);
+    form.List1.entries = {u"", lineOf({.quantity = u"40000", .colour = u"RUBRO"})};
+    print(Answer::yes);
+    EXPECT_EQ(form.txtcodigo.text, u"3104527");
+    load(tipo::corrugado);
+    form.List1.entries = {
+        u"", cartonLineOf({.master = u"M2", .description = u"BOTA", .volumes = u"8/x"})};
+    print(Answer::yes);
+    EXPECT_EQ(form.txtcodigo1.text, u"M2");
+}
 
 } // namespace etiquetas::test
