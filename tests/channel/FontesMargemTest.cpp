@@ -12,58 +12,57 @@ namespace etiquetas::test {
 struct MarginSource {
     std::string label;
     MargensDeEtiqueta (*margins)(const FrmPadrao&);
-    Text language;
+    Text other_language; // than ZPL; any one is PPLA
 };
 
-// Any language but "ZPL" is PPLA.
 static const std::vector<MarginSource> sources{
-    {"hidden_3", pega_margemoculta, u"ZPL"},      {"hidden_3", pega_margemoculta, u"PPLA"},
-    {"hidden_7", pega_margemoculta7, u"ZPL"},     {"hidden_7", pega_margemoculta7, u"zpl"},
-    {"hidden_8", pega_margemoculta8, u"ZPL"},     {"hidden_8", pega_margemoculta8, u"none"},
-    {"box_front", pega_margemfc, u"ZPL"},         {"box_front", pega_margemfc, u"PPLA"},
-    {"second_box_front", pega_margemfc2, u"ZPL"}, {"second_box_front", pega_margemfc2, u"PPLA"},
-    {"carton", pega_margemcorrugado, u"ZPL"},     {"carton", pega_margemcorrugado, u"PPLA"}};
+    {"hidden_3", pega_margemoculta, u"PPLA"},      {"hidden_7", pega_margemoculta7, u"zpl"},
+    {"hidden_8", pega_margemoculta8, u""},         {"box_front", pega_margemfc, u"PPLA"},
+    {"second_box_front", pega_margemfc2, u"PPLA"}, {"carton", pega_margemcorrugado, u"PPLA"}};
 
-/// The keys that the golden file names.
-static std::vector<Text> keysOf(const std::string& golden) {
-    std::vector<Text> keys;
-    for (const GoldenLine& line : goldenLines(golden)) {
-        std::istringstream words(line.text);
-        std::string key;
-        words >> key >> key >> key >> key;
-        keys.emplace_back(key.begin(), key.end());
-    }
-    return keys;
-}
-
-TEST(FontesMargemTest, EachMarginHasItsKeyAndADefaultForABlankOrMissingOne) {
-    Workbench blank, own_names, no_file;
-    std::vector<Text> blank_lines{u"[MargemOcultaZebra]"};
-    std::vector<Text> own_name_lines = blank_lines;
-    for (const Text& key : keysOf(ETIQUETAS_GOLDENS "/margin_sources.txt")) {
-        blank_lines.push_back(key + u"=  ");
-        own_name_lines.push_back(key + u"=" + key);
-    }
-    const Text settings = u"/programa/Varesko.ini";
-    blank.machine.files.bytes[settings] = fileOf(blank_lines);
-    own_names.machine.files.bytes[settings] = fileOf(own_name_lines);
-    Journal told;
-    for (const MarginSource& source : sources) {
-        const auto taken = [&source](Workbench& from) {
-            from.form.lbllinguagem.caption = source.language;
-            return source.margins(from.form);
-        };
-        const MargensDeEtiqueta keys = taken(own_names);
-        const MargensDeEtiqueta defaults = taken(no_file);
-        EXPECT_EQ(taken(blank).colunas, defaults.colunas) << source.label;
-        EXPECT_EQ(taken(blank).superior, defaults.superior) << source.label;
-        const std::string label = source.label + " " + utf8(source.language);
-        ASSERT_EQ(keys.colunas.size(), defaults.colunas.size()) << label;
-        for (std::size_t i = 0; i < keys.colunas.size(); ++i) {
-            told.tell(label, "column", utf8(keys.colunas[i]), utf8(defaults.colunas[i]));
+class FontesMargemTest : public testing::Test, protected Workbench {
+  protected:
+    /// Settings of blank keys and of keys that hold their own names, for all of the golden file.
+    FontesMargemTest() {
+        for (const GoldenLine& line : goldenLines(ETIQUETAS_GOLDENS "/margin_sources.txt")) {
+            std::istringstream words(line.text);
+            std::string key;
+            words >> key >> key >> key >> key;
+            blank += key + "=  \r\n";
+            own_names += key + "=" + key + "\r\n";
         }
-        if (!keys.superior.empty()) {
-            told.tell(label, "top", utf8(keys.superior), utf8(defaults.superior));
+    }
+
+    /// What a source takes from settings; from none where they are empty.
+    MargensDeEtiqueta taken(const MarginSource& source, const std::string& settings) {
+        machine.files.bytes.clear();
+        if (!settings.empty()) {
+            machine.files.bytes[u"/programa/Varesko.ini"] = settings;
+        }
+        return source.margins(form);
+    }
+
+    std::string blank = "[MargemOcultaZebra]\r\n";
+    std::string own_names = blank;
+    Journal told;
+};
+
+TEST_F(FontesMargemTest, EachMarginHasItsKeyAndADefaultForABlankOrMissingOne) {
+    for (const MarginSource& source : sources) {
+        for (const Text& language : {Text(u"ZPL"), source.other_language}) {
+            form.lbllinguagem.caption = language;
+            const MargensDeEtiqueta keys = taken(source, own_names);
+            const MargensDeEtiqueta defaults = taken(source, "");
+            EXPECT_EQ(taken(source, blank).colunas, defaults.colunas) << source.label;
+            EXPECT_EQ(taken(source, blank).superior, defaults.superior) << source.label;
+            const std::string label = source.label + (language == u"ZPL" ? " ZPL" : " PPLA");
+            ASSERT_EQ(keys.colunas.size(), defaults.colunas.size()) << label;
+            for (std::size_t i = 0; i < keys.colunas.size(); ++i) {
+                told.tell(label, "column", utf8(keys.colunas[i]), utf8(defaults.colunas[i]));
+            }
+            if (!keys.superior.empty()) {
+                told.tell(label, "top", utf8(keys.superior), utf8(defaults.superior));
+            }
         }
     }
     EXPECT_TRUE(matchesGolden(told.transcript, "margin_sources"));

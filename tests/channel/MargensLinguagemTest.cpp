@@ -68,8 +68,7 @@ TEST_P(MarginDialogTest, OpensWithItsTextsAndDefaults) {
 
 TEST_P(MarginDialogTest, StoresWhatIsTypedWhereItsLabelsTakeIt) {
     MargensLinguagem dialog = GetParam().make();
-    // No number at all: it comes and goes as it is.
-    std::vector<Text> typed;
+    std::vector<Text> typed; // which is no number at all, and comes and goes as it is
     for (TextField& column : dialog.txtmargem1) {
         column.text = typed.emplace_back(Text(typed.size() + 1, u'x'));
     }
@@ -102,15 +101,7 @@ TEST_F(MargensLinguagemTest, BlankFieldsAreStoredAsDefaults) {
                       u"Margem_frente_zpl_2_superior=10"}));
 }
 
-TEST_F(MargensLinguagemTest, LeavingStoresNothing) {
-    MargensLinguagem dialog = FrmMargensOcultaPPLa();
-    MargensLinguagem_load(form, dialog);
-    MargensLinguagem_cmd_exit(dialog);
-    EXPECT_FALSE(dialog.open);
-    EXPECT_FALSE(machine.files.fileExists(settings));
-}
-
-TEST_F(MargensLinguagemTest, MarginFieldsSelectTheirTextAndTakeDecimals) {
+TEST_F(MargensLinguagemTest, MarginFieldsSelectTheirTextAndTakeDecimalsThatLeavingDoesNotStore) {
     MargensLinguagem dialog = FrmMargensOcultaZPL();
     MargensLinguagem_load(form, dialog);
     txtmargem1_enter(dialog, 1);
@@ -120,6 +111,9 @@ TEST_F(MargensLinguagemTest, MarginFieldsSelectTheirTextAndTakeDecimals) {
     txtmargemsuperior_enter(dialog);
     EXPECT_EQ(dialog.txtmargemsuperior->selection.length, TextView(u"30").size());
     EXPECT_EQ(txtmargemsuperior_key(dialog, u'.'), u',');
+    MargensLinguagem_cmd_exit(dialog);
+    EXPECT_FALSE(dialog.open);
+    EXPECT_FALSE(machine.files.fileExists(settings));
 }
 
 } // namespace etiquetas::test
