@@ -35,11 +35,11 @@ TEST_F(Ean13Test, DrawsSymbolsOfTwelveDigitsInTensOfPixels) {
 }
 
 TEST_F(Ean13Test, BarsAreAtMostAsHighAsSixteenBitsHold) {
-    const auto drawHigh = [this](std::int16_t scale) {
+    const auto failure_at = [this](std::int16_t scale) {
         return failureOf([&] { DesenhaEan13(picture, scale, u"204455667788", false); });
     };
-    EXPECT_EQ(drawHigh(3276), 0);
-    EXPECT_EQ(drawHigh(3277), failure_number::overflow);
+    EXPECT_EQ(failure_at(3276), 0);
+    EXPECT_EQ(failure_at(3277), failure_number::overflow);
 }
 
 TEST_F(Ean13Test, RefusesWhatIsNotTwelveDigitsAndLeavesAnEmptyPicture) {

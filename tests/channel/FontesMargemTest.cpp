@@ -28,8 +28,8 @@ class FontesMargemTest : public testing::Test, protected Workbench {
             std::istringstream words(line.text);
             std::string key;
             words >> key >> key >> key >> key;
-            blank += key + "=  \r\n";
-            own_names += key + "=" + key + "\r\n";
+            blank.append(key).append("=  \r\n");
+            own_names.append(key).append("=").append(key).append("\r\n");
         }
     }
 

@@ -3,7 +3,6 @@
 #include "support/Cases.h"
 #include "support/Golden.h"
 
-#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace etiquetas::test {
@@ -71,7 +70,7 @@ static const std::vector<Job> jobs{
 static QStringList misplaced(const std::vector<PdfText>& page, const Job& job) {
     constexpr double tolerance = 0.1; // millimetres
     QStringList told;
-    const auto expectAt = [&](const GoldenText& text, QPointF corner) {
+    const auto expect_at = [&](const GoldenText& text, QPointF corner) {
         const QPointF baseline = corner + QPointF(0, riseOf(text.face, text.points));
         const double apart = distanceTo(page, text.text, baseline);
         if (apart >= tolerance) {
@@ -80,9 +79,9 @@ static QStringList misplaced(const std::vector<PdfText>& page, const Job& job) {
     };
     for (const GoldenText& text :
          goldenTexts(ETIQUETAS_GOLDENS "/page_" + std::string(job.name) + ".txt")) {
-        expectAt(text, text.corner);
+        expect_at(text, text.corner);
         if (job.columns_apart > 0 && !text.in_first_column_only) {
-            expectAt(text, text.corner + QPointF(job.columns_apart, 0));
+            expect_at(text, text.corner + QPointF(job.columns_apart, 0));
         }
     }
     return told;

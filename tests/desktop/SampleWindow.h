@@ -58,7 +58,7 @@ struct SampleWindow {
         if (written.size() != 1) {
             return {};
         }
-        const QString kept = folder.filePath(u"job%1.pdf"_s.arg(++kept_jobs));
+        QString kept = folder.filePath(u"job%1.pdf"_s.arg(++kept_jobs));
         QFile::rename(written.first(), kept);
         return kept;
     }

@@ -201,19 +201,19 @@ TEST_F(QtPrintSurfaceTest, drawsOpaqueBoxesAndPicturesAndStoresEachPictureOnce) 
     surface.NewPage();
     surface.PaintPicture(logo, 5, 5, 10, 10);
     const QImage page = renderedPage(finished(), 1, ten_dots, Tones::colours);
-    const auto expectColour = [&page](Pixel colour, const std::vector<QPointF>& places) {
+    const auto expect_colour = [&page](Pixel colour, const std::vector<QPointF>& places) {
         constexpr Pixel high_bits = 0xC0C0C0; // the others may get lost in a picture
         for (const auto [x, y] : places) {
             EXPECT_EQ(colourAt(page, x, y) & high_bits, colour & high_bits) << x << ' ' << y;
         }
     };
-    expectColour(green, {{50.2, 5.2}, {149.8, 39.8}, {65.5, 11}, {54.5, 11}});
-    expectColour(white_pixel, {{49.8, 20}, {150.2, 20}, {100, 4.8}, {100, 40.2}});
-    expectColour(0x202020, {{57, 8}});
-    expectColour(0x606060, {{63, 8}});
-    expectColour(0xA0A0A0, {{57, 14}});
-    expectColour(0xE0E0E0, {{63, 14}, {76, 7}, {84, 15}});
-    expectColour(red, {{100, 11}});
+    expect_colour(green, {{50.2, 5.2}, {149.8, 39.8}, {65.5, 11}, {54.5, 11}});
+    expect_colour(white_pixel, {{49.8, 20}, {150.2, 20}, {100, 4.8}, {100, 40.2}});
+    expect_colour(0x202020, {{57, 8}});
+    expect_colour(0x606060, {{63, 8}});
+    expect_colour(0xA0A0A0, {{57, 14}});
+    expect_colour(0xE0E0E0, {{63, 14}, {76, 7}, {84, 15}});
+    expect_colour(red, {{100, 11}});
     EXPECT_EQ(imagesIn(ended.file), 3) << "the logo, a part of it, and the red one";
 }
 

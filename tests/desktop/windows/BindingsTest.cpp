@@ -4,7 +4,6 @@
 #include "desktop/windows/FieldTable.h"
 #include "tests/desktop/SampleWindow.h"
 
-#include <QtWidgets>
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -5,7 +5,6 @@
 #include "support/Cases.h"
 
 #include <QtTest/QTest>
-#include <QtWidgets>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -96,15 +95,15 @@ TEST_F(EventBridgeTest, changesAListByTheWheelOnlyWhileItHasTheFocus) {
     loadOrder();
     auto& kinds = worker.widget<QComboBox>(u"cmbtipo"_s);
     EXPECT_EQ(kinds.focusPolicy(), Qt::StrongFocus) << "a turn must not give it the focus";
-    const auto turnWheel = [&] {
+    const auto turn_wheel = [&] {
         QWheelEvent turn({5, 5}, kinds.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
                          Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&kinds, &turn);
     };
-    turnWheel();
+    turn_wheel();
     EXPECT_EQ(kinds.currentIndex(), oculta);
     worker.click(u"cmbtipo"_s);
-    turnWheel();
+    turn_wheel();
     EXPECT_EQ(kinds.currentIndex(), oculta - 1);
 }
 

@@ -2,7 +2,6 @@
 #include "support/Golden.h"
 #include "tests/desktop/PdfTools.h"
 
-#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace etiquetas::test {
