@@ -1,9 +1,8 @@
 #pragma once
 
-#include "base/Failure.h"
 #include "platform/PictureBox.h"
+#include "support/Journal.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,37 +21,21 @@ struct BoxLetters final : Pictures {
     Picture load(TextView /*path*/) override { return nullptr; }
 };
 
-/// The picture from the top, "#" being black.
-inline std::vector<std::string> pixelRows(const Picture& picture) {
-    std::vector<std::string> rows;
-    for (int y = 0; y < picture->height; ++y) {
-        std::string& row = rows.emplace_back();
+/// Adds a picture from the top, "#" being black: a line for each run of equal rows.
+inline void addRows(Journal& told, const Picture& picture) {
+    const auto row = [&picture](int y) {
+        std::string pixels;
         for (int x = 0; x < picture->width; ++x) {
-            row += picture->at(x, y) == black_pixel ? '#' : ' ';
+            pixels += picture->at(x, y) == black_pixel ? '#' : ' ';
         }
+        return "rows |" + pixels + "|";
+    };
+    for (int from = 0, to = 0; from < picture->height; from = to) {
+        while (to < picture->height && row(to) == row(from)) {
+            ++to;
+        }
+        told.tell(std::to_string(to - from), row(from));
     }
-    return rows;
-}
-
-/// Bars and spaces in turn, a bar first, by their widths.
-inline std::string barsAndSpaces(const std::string& widths) {
-    std::string modules;
-    for (const char width : widths) {
-        const bool after_bar = !modules.empty() && modules.back() == '#';
-        modules.append(static_cast<std::size_t>(width - '0'), after_bar ? ' ' : '#');
-    }
-    return modules;
-}
-
-/// The failure that a step ends with.
-template <typename Step>
-std::optional<Failure> failureIn(Step&& step) {
-    try {
-        std::forward<Step>(step)();
-    } catch (const Failure& failure) {
-        return failure;
-    }
-    return {};
 }
 
 } // namespace etiquetas::test

@@ -1,5 +1,7 @@
 #include "channel/CommandFile.h"
 
+#include "support/Cases.h"
+
 #include <gtest/gtest.h>
 
 namespace etiquetas::test {
@@ -23,8 +25,6 @@ struct LineCase {
     std::string name;
     Text line;
     std::optional<PortCommand> command;
-
-    friend void PrintTo(const LineCase& that, std::ostream* out) { *out << that.name; }
 };
 
 class CommandLineTest : public testing::TestWithParam<LineCase> {};
@@ -33,23 +33,27 @@ TEST_P(CommandLineTest, IsReadWithoutRegardToCase) {
     EXPECT_EQ(readCommandLine(GetParam().line), GetParam().command);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    , CommandLineTest,
-    testing::Values(
-        LineCase{"Unmap", u"NET Use lpt1: /Delete", UnmapPort{u"lpt1"}},
-        LineCase{"UnmapNoPort", u"net use : /delete", {}},
-        LineCase{"UnmapMore", u"net use LPT1: /delete ", {}},
-        LineCase{"Map", u"NET USE Lpt1: \\\\127.0.0.1\\Zebra /YES", MapPort{u"Lpt1", u"Zebra"}},
-        LineCase{"MapBlanks", u"net use LPT1: \\\\127.0.0.1\\ Z 1  /yes",
-                 MapPort{u"LPT1", u" Z 1 "}},
-        LineCase{"MapNoShare", u"net use LPT1: \\\\127.0.0.1\\ /yes", MapPort{u"LPT1", u""}},
-        LineCase{"MapNoPort", u"net use : \\\\127.0.0.1\\Z /yes", {}},
-        LineCase{"MapOtherMachine", u"net use LPT1: \\\\127.0.0.2\\Z /yes", {}},
-        LineCase{"MapWithQuestion", u"net use LPT1: \\\\127.0.0.1\\Z", {}},
-        LineCase{"Type", u"TYPE my job.prn > Lpt3", TypeFile{u"my job.prn", u"Lpt3"}},
-        LineCase{"TypeLastArrow", u"type a > b > LPT1", TypeFile{u"a > b", u"LPT1"}},
-        LineCase{"TypeNoFile", u"type  > LPT1", {}}, LineCase{"TypeNoPort", u"type a.prn > ", {}},
-        LineCase{"OtherCommand", u"del epltemp.prn", {}}, LineCase{"Empty", u"", {}}),
-    [](const auto& tested) { return tested.param.name; });
+// clang-format off
+static const std::vector<LineCase> lines{
+    // name, line, command
+    {"Unmap", u"NET Use lpt1: /Delete", UnmapPort{u"lpt1"}},
+    {"UnmapNoPort", u"net use : /delete", {}},
+    {"UnmapMore", u"net use LPT1: /delete ", {}},
+    {"Map", u"NET USE Lpt1: \\\\127.0.0.1\\Zebra /YES", MapPort{u"Lpt1", u"Zebra"}},
+    {"MapBlanks", u"net use LPT1: \\\\127.0.0.1\\ Z 1  /yes", MapPort{u"LPT1", u" Z 1 "}},
+    {"MapNoShare", u"net use LPT1: \\\\127.0.0.1\\ /yes", MapPort{u"LPT1", u""}},
+    {"MapNoPort", u"net use : \\\\127.0.0.1\\Z /yes", {}},
+    {"MapOtherMachine", u"net use LPT1: \\\\127.0.0.2\\Z /yes", {}},
+    {"MapWithQuestion", u"net use LPT1: \\\\127.0.0.1\\Z", {}},
+    {"Type", u"TYPE my job.prn > Lpt3", TypeFile{u"my job.prn", u"Lpt3"}},
+    {"TypeLastArrow", u"type a > b > LPT1", TypeFile{u"a > b", u"LPT1"}},
+    {"TypeNoFile", u"type  > LPT1", {}},
+    {"TypeNoPort", u"type a.prn > ", {}},
+    {"OtherCommand", u"del epltemp.prn", {}},
+    {"Empty", u"", {}},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(, CommandLineTest, testing::ValuesIn(lines), CaseName());
 
 } // namespace etiquetas::test

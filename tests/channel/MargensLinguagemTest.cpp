@@ -1,6 +1,7 @@
 #include "channel/MargensLinguagem.h"
 
 #include "channel/FontesMargem.h"
+#include "support/Cases.h"
 #include "support/FakePlatform.h"
 
 #include <gtest/gtest.h>
@@ -20,9 +21,22 @@ struct DialogCase {
     // The top margin of an opened dialog, empty where it has none.
     Text top_without_file;
     Text top_of_blank_key;
-
-    friend void PrintTo(const DialogCase& that, std::ostream* out) { *out << that.name; }
 };
+
+static const Text oculta_zpl = u"Calibrar Margens - Etiqueta Oculta - ZPL";
+static const Text oculta_ppla = u"Calibrar Margens - Etiqueta Oculta - PPLA";
+static const Text frente_zpl = u"Calibrar Margens - Etiqueta Frente de Caixa - ZPL";
+
+// clang-format off
+static const std::vector<DialogCase> dialogs{
+    // name, make, caption, frame, language, source, top without a file, top of a blank key
+    {"Hidden3Zpl", FrmMargensOcultaZPL, oculta_zpl, u"Etiqueta 30x10x3", u"ZPL", pega_margemoculta, u"30", u"30"},
+    {"Hidden7Zpl", FrmMargensOculta7ZPL, oculta_zpl, u"Etiqueta 10x30x7", u"ZPL", pega_margemoculta7, u"70", u"70"},
+    {"Hidden8Zpl", FrmMargensOculta8ZPL, oculta_zpl, u"Etiqueta 10x30x8", u"ZPL", pega_margemoculta8, u"70", u"70"},
+    {"Hidden3Ppla", FrmMargensOcultaPPLa, oculta_ppla, u"Etiqueta 30x10x3", u"PPLA", pega_margemoculta, u"", u""},
+    {"BoxFrontZpl", FrmMargensCxZPL, frente_zpl, u"Etiqueta 40x45x2", u"ZPL", pega_margemfc, u"70", u"3"},
+};
+// clang-format on
 
 class MarginDialogTest : public testing::TestWithParam<DialogCase>, protected Workbench {
   protected:
@@ -54,8 +68,7 @@ TEST_P(MarginDialogTest, OpensWithItsTextsAndDefaults) {
 
 TEST_P(MarginDialogTest, StoresWhatIsTypedWhereItsLabelsTakeIt) {
     MargensLinguagem dialog = GetParam().make();
-    // No number at all: it comes and goes as it is.
-    std::vector<Text> typed;
+    std::vector<Text> typed; // which is no number at all, and comes and goes as it is
     for (TextField& column : dialog.txtmargem1) {
         column.text = typed.emplace_back(Text(typed.size() + 1, u'x'));
     }
@@ -73,47 +86,7 @@ TEST_P(MarginDialogTest, StoresWhatIsTypedWhereItsLabelsTakeIt) {
     expectShown(opened_again, typed, top);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    , MarginDialogTest,
-    testing::Values(DialogCase{.name = "Hidden3Zpl",
-                               .make = FrmMargensOcultaZPL,
-                               .caption = u"Calibrar Margens - Etiqueta Oculta - ZPL",
-                               .frame = u"Etiqueta 30x10x3",
-                               .language = u"ZPL",
-                               .source = pega_margemoculta,
-                               .top_without_file = u"30",
-                               .top_of_blank_key = u"30"},
-                    DialogCase{.name = "Hidden7Zpl",
-                               .make = FrmMargensOculta7ZPL,
-                               .caption = u"Calibrar Margens - Etiqueta Oculta - ZPL",
-                               .frame = u"Etiqueta 10x30x7",
-                               .language = u"ZPL",
-                               .source = pega_margemoculta7,
-                               .top_without_file = u"70",
-                               .top_of_blank_key = u"70"},
-                    DialogCase{.name = "Hidden8Zpl",
-                               .make = FrmMargensOculta8ZPL,
-                               .caption = u"Calibrar Margens - Etiqueta Oculta - ZPL",
-                               .frame = u"Etiqueta 10x30x8",
-                               .language = u"ZPL",
-                               .source = pega_margemoculta8,
-                               .top_without_file = u"70",
-                               .top_of_blank_key = u"70"},
-                    DialogCase{.name = "Hidden3Ppla",
-                               .make = FrmMargensOcultaPPLa,
-                               .caption = u"Calibrar Margens - Etiqueta Oculta - PPLA",
-                               .frame = u"Etiqueta 30x10x3",
-                               .language = u"PPLA",
-                               .source = pega_margemoculta},
-                    DialogCase{.name = "BoxFrontZpl",
-                               .make = FrmMargensCxZPL,
-                               .caption = u"Calibrar Margens - Etiqueta Frente de Caixa - ZPL",
-                               .frame = u"Etiqueta 40x45x2",
-                               .language = u"ZPL",
-                               .source = pega_margemfc,
-                               .top_without_file = u"70",
-                               .top_of_blank_key = u"3"}),
-    [](const auto& tested) { return tested.param.name; });
+INSTANTIATE_TEST_SUITE_P(, MarginDialogTest, testing::ValuesIn(dialogs), CaseName());
 
 class MargensLinguagemTest : public testing::Test, protected Workbench {};
 
@@ -128,15 +101,7 @@ TEST_F(MargensLinguagemTest, BlankFieldsAreStoredAsDefaults) {
                       u"Margem_frente_zpl_2_superior=10"}));
 }
 
-TEST_F(MargensLinguagemTest, LeavingStoresNothing) {
-    MargensLinguagem dialog = FrmMargensOcultaPPLa();
-    MargensLinguagem_load(form, dialog);
-    MargensLinguagem_cmd_exit(dialog);
-    EXPECT_FALSE(dialog.open);
-    EXPECT_FALSE(machine.files.fileExists(settings));
-}
-
-TEST_F(MargensLinguagemTest, MarginFieldsSelectTheirTextAndTakeDecimals) {
+TEST_F(MargensLinguagemTest, MarginFieldsSelectTheirTextAndTakeDecimalsThatLeavingDoesNotStore) {
     MargensLinguagem dialog = FrmMargensOcultaZPL();
     MargensLinguagem_load(form, dialog);
     txtmargem1_enter(dialog, 1);
@@ -146,6 +111,9 @@ TEST_F(MargensLinguagemTest, MarginFieldsSelectTheirTextAndTakeDecimals) {
     txtmargemsuperior_enter(dialog);
     EXPECT_EQ(dialog.txtmargemsuperior->selection.length, TextView(u"30").size());
     EXPECT_EQ(txtmargemsuperior_key(dialog, u'.'), u',');
+    MargensLinguagem_cmd_exit(dialog);
+    EXPECT_FALSE(dialog.open);
+    EXPECT_FALSE(machine.files.fileExists(settings));
 }
 
 } // namespace etiquetas::test

@@ -36,6 +36,7 @@ TEST_F(PacotesTest, CodeStripComesAloneOrAfterItsHeader) {
     EXPECT_TRUE(holdsProgram(job, "zpl_code_strip_with_header"));
     Imprime_OcultaNova(form, {});
     EXPECT_TRUE(holdsProgram(job, "zpl_code_strip"));
+    EXPECT_TRUE(machine.files.bytes[command_file].ends_with("> LPT1\n\r\n"));
 }
 
 TEST_F(PacotesTest, QuantitiesBeyondSixteenBitsOrOfNoNumberAreLeftOut) {
@@ -44,11 +45,10 @@ TEST_F(PacotesTest, QuantitiesBeyondSixteenBitsOrOfNoNumberAreLeftOut) {
         Log header_quantities;
         Log copies;
     };
-    for (const Case& that : {Case{.quantity = u"4",
-                            .header_quantities = {"^FO540, 40^A0N,25,25^FDQte: 8 | Imp. 4^FS"},
-                            .copies = {"^PQ2,,1,Y"}},
-                             Case{.quantity = u"32766", .copies = {"^PQ16383,,1,Y"}},
-                             Case{.quantity = u"32767"}, Case{.quantity = u""}}) {
+    const Log header_of_four{"^FO540, 40^A0N,25,25^FDQte: 8 | Imp. 4^FS"};
+    for (const Case& that :
+         {Case{u"4", header_of_four, {"^PQ2,,1,Y"}}, Case{u"32766", {}, {"^PQ16383,,1,Y"}},
+          Case{u"32767", {}, {}}, Case{u"", {}, {}}}) {
         quantity.text = that.quantity;
         Imprime_OcultaNova(form, {.checked = true});
         EXPECT_EQ(linesOf("^FO540"), that.header_quantities) << utf8(that.quantity);
@@ -61,21 +61,13 @@ TEST_F(PacotesTest, PacksStandTwoOnAStrip) {
     quantity.text = u"2";
     Imprime_Pacote(form);
     EXPECT_TRUE(holdsProgram(job, "zpl_packs_2"));
+    EXPECT_TRUE(machine.files.bytes[command_file].ends_with("> LPT1\r\n"));
     quantity.text = u"3";
     Imprime_Pacote(form);
     EXPECT_TRUE(holdsProgram(job, "zpl_packs_3"));
     quantity.text = u"x";
     Imprime_Pacote(form);
     EXPECT_EQ(job, "");
-}
-
-TEST_F(PacotesTest, OnlyCodeStripsEndTheirCommandFileWithOneMoreLineFeed) {
-    Imprime_OcultaNova(form, {});
-    EXPECT_TRUE(machine.files.bytes[command_file].ends_with("> LPT1\n\r\n"));
-    machine.files.bytes.erase(command_file);
-    quantity.text = u"1";
-    Imprime_Pacote(form);
-    EXPECT_TRUE(machine.files.bytes[command_file].ends_with("> LPT1\r\n"));
 }
 
 TEST_F(PacotesTest, BlankNumberOfPacksIsAskedForAndNothingPrinted) {

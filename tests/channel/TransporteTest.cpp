@@ -8,19 +8,14 @@ namespace etiquetas::test {
 
 class TransporteTest : public testing::Test, protected Workbench {
   protected:
-    struct Printer {
-        Text port_kind;
-        Text share;
-        CommandFileEnd end = CommandFileEnd::plain;
-    };
-
-    // The command file that the first job of this printer writes.
-    std::string commandFileFor(const Printer& printer) {
+    // The command file that the first job of a printer writes.
+    std::string commandFileFor(TextView port_kind, TextView share,
+                               CommandFileEnd end = CommandFileEnd::plain) {
         machine.files.bytes.erase(command);
         form.LBLPORTAPARELELA.caption = u"Lpt2";
-        form.lblporta.caption = printer.port_kind;
-        form.lblcompartilhamento.caption = printer.share;
-        sendProgram(form, {}, printer.end);
+        form.lblporta.caption = port_kind;
+        form.lblcompartilhamento.caption = share;
+        sendProgram(form, {}, end);
         return machine.files.bytes[command];
     }
 
@@ -35,23 +30,16 @@ TEST_F(TransporteTest, JobIsWrittenBeforeItsCommandFileIsStarted) {
                                 "start /programa/IMPRIMIR.BAT"}));
 }
 
-TEST_F(TransporteTest, ParallelPortIsReachedAsItIs) {
-    EXPECT_EQ(commandFileFor({.port_kind = u"PARALELA"}), fileOf({u"type epltemp.prn > Lpt2"}));
-    EXPECT_EQ(
-        commandFileFor(
-            {.port_kind = u"paralela", .share = u"Zebra", .end = CommandFileEnd::extra_line_feed}),
-        fileOf({u"type epltemp.prn > Lpt2\n"}));
-}
-
-TEST_F(TransporteTest, AnyOtherPortIsMappedToTheShare) {
-    EXPECT_EQ(commandFileFor({.port_kind = u"PARALELA "}),
-              fileOf({u"net use Lpt2: /delete", u"net use Lpt2: \\\\127.0.0.1\\ /yes",
-                      u"type epltemp.prn > Lpt2"}));
-    EXPECT_EQ(
-        commandFileFor(
-            {.port_kind = u"Label17", .share = u" Pé 1 ", .end = CommandFileEnd::extra_line_feed}),
-        fileOf({u"net use Lpt2: /delete", u"net use Lpt2: \\\\127.0.0.1\\Pé 1 /yes",
-                u"type epltemp.prn > Lpt2\n"}));
+TEST_F(TransporteTest, AnyPortButAParallelOneIsMappedToTheShare) {
+    const CommandFileEnd extra = CommandFileEnd::extra_line_feed;
+    const Text unmap = u"net use Lpt2: /delete";
+    const Text type = u"type epltemp.prn > Lpt2";
+    EXPECT_EQ(commandFileFor(u"PARALELA", u""), fileOf({type}));
+    EXPECT_EQ(commandFileFor(u"paralela", u"Zebra", extra), fileOf({type + u"\n"}));
+    EXPECT_EQ(commandFileFor(u"PARALELA ", u""),
+              fileOf({unmap, u"net use Lpt2: \\\\127.0.0.1\\ /yes", type}));
+    EXPECT_EQ(commandFileFor(u"Label17", u" Pé 1 ", extra),
+              fileOf({unmap, u"net use Lpt2: \\\\127.0.0.1\\Pé 1 /yes", type + u"\n"}));
 }
 
 TEST_F(TransporteTest, CommandFileThatIsThereStaysEvenWhereItsStartFails) {

@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "desktop/machine/QtText.h"
 
+#include <QString>
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -10,6 +11,8 @@
 #include <sys/resource.h>
 
 namespace etiquetas::test {
+
+using namespace Qt::StringLiterals;
 
 /// Does a deed that throws nothing while no file can grow beyond a kilobyte, as on a full disk.
 inline void onFullDisk(const std::function<void()>& deed) {

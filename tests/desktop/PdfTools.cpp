@@ -8,10 +8,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 namespace etiquetas::test {
 
 using namespace Qt::StringLiterals;
+
+constexpr double millimetres_per_point = 25.4 / 72;
 
 QByteArray outputOf(const QString& command) {
     QProcess process;
@@ -31,7 +34,6 @@ std::vector<QSizeF> pageSizes(const QString& pdf) {
 }
 
 std::vector<std::vector<PdfText>> pageTexts(const QString& pdf) {
-    constexpr double millimetres_per_point = 25.4 / 72;
     QXmlStreamReader xml(outputOf(u"mutool draw -q -F stext -o - \"%1\""_s.arg(pdf)));
     std::vector<std::vector<PdfText>> pages;
     while (!xml.atEnd()) {
@@ -50,29 +52,24 @@ std::vector<std::vector<PdfText>> pageTexts(const QString& pdf) {
     return pages;
 }
 
-double distance(QPointF one, QPointF other) {
-    const QPointF apart = one - other;
-    return std::max(std::abs(apart.x()), std::abs(apart.y()));
-}
-
-std::optional<QPointF> nearestTo(const std::vector<PdfText>& page, const QString& text,
-                                 QPointF place) {
-    std::optional<QPointF> nearest;
+double distanceTo(const std::vector<PdfText>& page, const QString& text, QPointF place) {
+    double nearest = 1000;
     for (const PdfText& line : page) {
         for (qsizetype at = line.text.indexOf(text); at >= 0;
              at = line.text.indexOf(text, at + 1)) {
-            const QPointF origin = line.origins[static_cast<std::size_t>(at)];
-            if (!nearest || distance(origin, place) < distance(*nearest, place)) {
-                nearest = origin;
-            }
+            const QPointF apart = line.origins[static_cast<std::size_t>(at)] - place;
+            nearest = std::min(nearest, std::max(std::abs(apart.x()), std::abs(apart.y())));
         }
     }
     return nearest;
 }
 
-double distanceTo(const std::vector<PdfText>& page, const QString& text, QPointF place) {
-    const auto nearest = nearestTo(page, text, place);
-    return nearest ? distance(*nearest, place) : 1000;
+double riseOf(const QString& face, double points) {
+    static const std::map<QString, double> ascents{{u"Calibri"_s, 1950},
+                                                   {u"Franklin Gothic Medium"_s, 1854},
+                                                   {u"Estrangelo Edessa"_s, 1854},
+                                                   {u"Malgun Gothic Semilight"_s, 0.974 * 2189}};
+    return ascents.at(face) / 2048 * points * millimetres_per_point;
 }
 
 QImage renderedPage(const QString& pdf, int page, int resolution, Tones tones) {

@@ -3,7 +3,6 @@
 #include <QImage>
 #include <QStringList>
 
-#include <optional>
 #include <vector>
 
 namespace etiquetas::test {
@@ -27,18 +26,14 @@ QByteArray outputOf(const QString& command);
 /// Texts of each page in drawing order, read by MuPDF.
 [[nodiscard]] std::vector<std::vector<PdfText>> pageTexts(const QString& pdf);
 
-/// The first baseline origin of the occurrence of a text on a page that is nearest to a place, in
-/// millimetres; nothing where the page has not got the text.
-[[nodiscard]] std::optional<QPointF> nearestTo(const std::vector<PdfText>& page,
-                                               const QString& text, QPointF place);
-
-/// How far two places are apart in the worse direction.
-[[nodiscard]] double distance(QPointF one, QPointF other);
-
 /// How far the nearest occurrence of a text on a page is from a place of its first baseline origin,
 /// in the worse direction, millimetres; a metre where the page has not got the text.
 [[nodiscard]] double distanceTo(const std::vector<PdfText>& page, const QString& text,
                                 QPointF place);
+
+/// From the top of a text to its baseline, millimetres: by the Windows ascent of the stand-in for
+/// its face, which is Carlito, Liberation Sans or Open Sans Light.
+[[nodiscard]] double riseOf(const QString& face, double points);
 
 enum class Tones { black_and_white, colours };
 

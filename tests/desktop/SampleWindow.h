@@ -2,28 +2,23 @@
 
 #include "demo/Operator.h"
 
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <optional>
 
 namespace etiquetas::test {
 
+using namespace Qt::StringLiterals;
+
+/// Label kinds by their positions in the list.
+enum LabelKind { frente_de_caixa, corrugado, acessorio, oculta };
+
 /// The real window on a copy of the sample installation, and an operator at it, once it is opened.
 struct SampleWindow {
-    /// Label kinds by their positions in the list.
-    static constexpr int frente_de_caixa = 0;
-    static constexpr int corrugado = 1;
-    static constexpr int acessorio = 2;
-    static constexpr int oculta = 3;
-
     SampleWindow() {
         const QDir samples(QStringLiteral(ETIQUETAS_SAMPLES));
-        const QString photograph = QStringLiteral("imagens/3104527.jpg");
-        QDir(folder.path()).mkpath(QStringLiteral("imagens"));
+        const QString photograph = u"imagens/3104527.jpg"_s;
+        QDir(folder.path()).mkpath(u"imagens"_s);
         const QStringList names = samples.entryList(QDir::Files) << photograph;
         for (const QString& name : names) {
             QFile::copy(samples.filePath(name), folder.filePath(name));
@@ -39,16 +34,16 @@ struct SampleWindow {
     }
 
     /// Loads an order of a label kind, told by its position in the list.
-    void load(int kind, const char* order) {
-        worker.choose(QStringLiteral("cmbtipo"), kind);
-        worker.type(QStringLiteral("txtarquivo"), QString::fromLatin1(order));
+    void load(LabelKind kind, const char* order) {
+        worker.choose(u"cmbtipo"_s, kind);
+        worker.type(u"txtarquivo"_s, QString::fromLatin1(order));
         worker.press(Qt::Key_Return);
     }
 
     /// The files of labels that were written, by their paths; one that was only begun counts too.
     [[nodiscard]] QStringList jobs() const {
         QStringList paths;
-        const QDir written(folder.filePath(QStringLiteral("impressos")));
+        const QDir written(folder.filePath(u"impressos"_s));
         for (const QFileInfo& job : written.entryInfoList(QDir::Files | QDir::Hidden)) {
             paths << job.filePath();
         }
@@ -63,7 +58,7 @@ struct SampleWindow {
         if (written.size() != 1) {
             return {};
         }
-        const QString kept = folder.filePath(QStringLiteral("job%1.pdf").arg(++kept_jobs));
+        QString kept = folder.filePath(u"job%1.pdf"_s.arg(++kept_jobs));
         QFile::rename(written.first(), kept);
         return kept;
     }
@@ -78,7 +73,7 @@ struct SampleWindow {
     }
 
     [[nodiscard]] QByteArray settings() const {
-        QFile file(folder.filePath(QStringLiteral("Varesko.ini")));
+        QFile file(folder.filePath(u"Varesko.ini"_s));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 

@@ -42,9 +42,10 @@ class QtCommandStartTest : public testing::Test {
         }
         return files.read(toText(place(name)));
     }
-    // What the print program is called with for a share, once it has been.
-    std::string argumentsFor(const std::string& share) const {
-        return "-d\n" + share + "\n-o\nraw\n--\n" + place(u"epltemp.prn"_s).toStdString() + "\n";
+    void expectPrinted(const std::string& bytes, const std::string& share) const {
+        EXPECT_EQ(awaited(u"lp-job"_s), bytes);
+        EXPECT_EQ(awaited(u"lp-arguments"_s), "-d\n" + share + "\n-o\nraw\n--\n" +
+                                                  place(u"epltemp.prn"_s).toStdString() + "\n");
     }
 
     const std::string program{"\2n\r\n\0\xE7\r\n", 8};
@@ -58,8 +59,7 @@ TEST_F(QtCommandStartTest, PrintsOnTheQueueOfTheShareAsItIsNamed) {
     start("net use LPT1: /delete\r\n"
           "NET USE Lpt1: \\\\127.0.0.1\\-o $(touch a); \xE9\"' /yes\r\n"
           "type epltemp.prn > lpt1\n\r\n");
-    EXPECT_EQ(awaited(u"lp-job"_s), program);
-    EXPECT_EQ(awaited(u"lp-arguments"_s), argumentsFor("-o $(touch a); \u00E9\"'"));
+    expectPrinted(program, "-o $(touch a); \u00E9\"'");
 }
 
 TEST_F(QtCommandStartTest, WritesToTheParallelDeviceWhereThePortHasNoShare) {
@@ -89,8 +89,7 @@ TEST_F(QtCommandStartTest, CarriesOutTheCommandFilesOfTheChannel) {
     writePrintProgram();
     form.lblcompartilhamento.caption = u"Zebra";
     sendProgram(form, {u"^XA"}, CommandFileEnd::extra_line_feed);
-    EXPECT_EQ(awaited(u"lp-job"_s), "^XA\r\n");
-    EXPECT_EQ(awaited(u"lp-arguments"_s), argumentsFor("Zebra"));
+    expectPrinted("^XA\r\n", "Zebra");
 
     QFile::remove(place(u"IMPRIMIR.BAT"_s));
     write(u"lp2"_s, "");

@@ -5,10 +5,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-namespace etiquetas {
-
-using namespace Qt::StringLiterals;
-using namespace test;
+namespace etiquetas::test {
 
 class QtFilesTest : public testing::Test {
   protected:
@@ -72,4 +69,4 @@ TEST_F(QtFilesTest, tellsOfEachFileThatWasRead) {
     EXPECT_EQ(paths, std::vector{path});
 }
 
-} // namespace etiquetas
+} // namespace etiquetas::test

@@ -9,10 +9,7 @@
 
 #include <algorithm>
 
-namespace etiquetas {
-
-using namespace Qt::StringLiterals;
-using namespace test;
+namespace etiquetas::test {
 
 class QtPicturesTest : public testing::Test {
   protected:
@@ -60,4 +57,4 @@ TEST_F(QtPicturesTest, drawsTextsInPureBlackOnWhite) {
     EXPECT_EQ(ink + paper, text.width * text.height) << "a grey pixel";
 }
 
-} // namespace etiquetas
+} // namespace etiquetas::test

@@ -35,7 +35,7 @@ TEST(PictureMarks, stampsEqualRowsOfBarsAsOneImageOfOneRowAndBlankOnesAsPaper) {
 
 TEST(PictureMarks, reusesTheImageOfAPictureAndCropAndNoOther) {
     PictureMarks marks;
-    const auto imageOfStamp = [&marks](const Picture& picture, const QRect& crop) {
+    const auto image_of_stamp = [&marks](const Picture& picture, const QRect& crop) {
         LabelPage page;
         marks.stamp(page, picture, crop, QRectF(0, 0, 1, 1));
         return std::get<ImageMark>(page.marks.front()).image.cacheKey();
@@ -44,10 +44,10 @@ TEST(PictureMarks, reusesTheImageOfAPictureAndCropAndNoOther) {
     const Picture picture = std::make_shared<const Raster>(grey);
     const Picture other = std::make_shared<const Raster>(grey);
     const QRect whole(0, 0, 2, 1);
-    const auto first = imageOfStamp(picture, whole);
-    EXPECT_NE(imageOfStamp(other, whole), first);
-    EXPECT_NE(imageOfStamp(picture, QRect(1, 0, 1, 1)), first);
-    EXPECT_EQ(imageOfStamp(picture, whole), first);
+    const auto first = image_of_stamp(picture, whole);
+    EXPECT_NE(image_of_stamp(other, whole), first);
+    EXPECT_NE(image_of_stamp(picture, QRect(1, 0, 1, 1)), first);
+    EXPECT_EQ(image_of_stamp(picture, whole), first);
 }
 
 } // namespace etiquetas

@@ -4,20 +4,12 @@
 #include "desktop/windows/FieldTable.h"
 #include "tests/desktop/SampleWindow.h"
 
-#include <QAccessible>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <stdexcept>
 
 namespace etiquetas::test {
-
-using namespace Qt::StringLiterals;
 
 class BindingsTest : public testing::Test, protected SampleWindow {
   protected:
@@ -26,29 +18,24 @@ class BindingsTest : public testing::Test, protected SampleWindow {
     WorkbenchWindow main;
 };
 
-template <typename Widget>
-static bool is(const QWidget& widget) {
-    return qobject_cast<const Widget*>(&widget) != nullptr;
-}
-
 // True for a widget of a kind that fields are shown in; the text of a list is a part of the list.
 static bool canShowAField(const QWidget& widget) {
-    if (is<QComboBox>(*widget.parentWidget())) {
-        return false;
-    }
-    return is<QLabel>(widget) || is<QLineEdit>(widget) || is<QComboBox>(widget) ||
-           is<QGroupBox>(widget) || is<QPushButton>(widget);
+    const std::vector<const char*> kinds{"QLabel", "QLineEdit", "QComboBox", "QGroupBox",
+                                         "QPushButton"};
+    return !widget.parentWidget()->inherits("QComboBox") &&
+           std::ranges::any_of(kinds, [&](const char* kind) { return widget.inherits(kind); });
 }
 
-// The widgets that show no field and no caption of one, so that they would stay as designed.
+// The names of the widgets that show no field and no caption of one, so that they would stay as
+// designed.
 static QStringList unboundWidgets(const BridgedWindow& table) {
+    QSet<QString> bound;
+    for (const FieldRow& row : table.rows) {
+        bound << row.widget->objectName() << row.widget->objectName() + u"_caption"_s;
+    }
     QStringList names;
     for (const QWidget* const widget : table.window->findChildren<QWidget*>()) {
-        const auto shows = [widget](const FieldRow& row) {
-            return row.widget == widget ||
-                   row.widget->objectName() + u"_caption"_s == widget->objectName();
-        };
-        if (canShowAField(*widget) && std::ranges::none_of(table.rows, shows)) {
+        if (canShowAField(*widget) && !bound.contains(widget->objectName())) {
             names << widget->objectName();
         }
     }
@@ -57,7 +44,7 @@ static QStringList unboundWidgets(const BridgedWindow& table) {
 
 // What a screen reader tells of a field; of a list the toolkit tells the text there.
 static QString spokenName(QWidget& widget) {
-    return is<QComboBox>(widget)
+    return widget.inherits("QComboBox")
                ? widget.accessibleName()
                : QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
 }
@@ -81,11 +68,8 @@ static void expectComplete(const BridgedWindow& table) {
     EXPECT_EQ(unnamedFields(table), QStringList());
 }
 
-TEST_F(BindingsTest, bindEachWidgetOfTheWorkbench) {
+TEST_F(BindingsTest, bindEachWidgetOfTheWindows) {
     expectComplete(fieldTable(form, main));
-}
-
-TEST_F(BindingsTest, bindEachWidgetOfTheDialogs) {
     MarginWindow margins(u"margins"_s);
     expectComplete(marginTable(form, form.FrmMargensOcultaZPL2, margins, main));
     expectComplete(marginTable(form, form.FrmMargensCxZPL45, margins, main));

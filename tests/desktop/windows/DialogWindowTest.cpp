@@ -1,17 +1,18 @@
+#include "support/Cases.h"
 #include "tests/desktop/PdfTools.h"
 #include "tests/desktop/SampleWindow.h"
 
 #include <QLineEdit>
 #include <gtest/gtest.h>
 
-namespace etiquetas::test {
+#include <algorithm>
 
-using namespace Qt::StringLiterals;
+namespace etiquetas::test {
 
 // A margin of the sample settings, changed in its dialog, and a text of the label that it moves.
 struct Calibration {
     const char* name;
-    int kind; // position in the list
+    LabelKind kind;
     QString dialog;
     QString field;
     QString stored;
@@ -22,60 +23,22 @@ struct Calibration {
     QPointF shift;
 };
 
-static void PrintTo(const Calibration& calibration, std::ostream* out) {
-    *out << calibration.name;
+static QPointF baseline(double left, double top, const QString& face, double points) {
+    return {left, top + riseOf(face, points)};
 }
 
-// From the top of a text to its baseline: the Windows ascents of Carlito and Liberation Sans.
-static constexpr double carlito(double points) {
-    return 1950.0 / 2048 * points * 25.4 / 72;
-}
-static constexpr double liberation(double points) {
-    return 1854.0 / 2048 * points * 25.4 / 72;
-}
+static const QString calibri = u"Calibri"_s;
+static const QString franklin = u"Franklin Gothic Medium"_s;
 
+// clang-format off
 static const std::vector<Calibration> calibrations{
-    {.name = "hidden_left",
-     .kind = SampleWindow::oculta,
-     .dialog = u"FrmMargensOcultaZPL2"_s,
-     .field = u"txtmargem1"_s,
-     .stored = u"3"_s,
-     .changed = u"5,5"_s,
-     .setting = "Margem_oculta1=5,5",
-     .text = u"527"_s,
-     .baseline = {33.3, 2 + carlito(20)},
-     .shift = {2.5, 0}},
-    {.name = "accessory_right",
-     .kind = SampleWindow::acessorio,
-     .dialog = u"FrmMargensOcultaZPL2"_s,
-     .field = u"txtmargem2"_s,
-     .stored = u"45"_s,
-     .changed = u"44"_s,
-     .setting = "Margem_oculta11=44",
-     .text = u"5201104"_s,
-     .baseline = {50.5, 13.8 + liberation(5)},
-     .shift = {-1, 0}},
-    {.name = "box_front_top",
-     .kind = SampleWindow::frente_de_caixa,
-     .dialog = u"FrmMargensCxZPL45"_s,
-     .field = u"txtmargemsuperior"_s,
-     .stored = u"3"_s,
-     .changed = u"4,25"_s,
-     .setting = "Mx4045=4,25",
-     .text = u"3104527001"_s,
-     .baseline = {2.3, 21 + liberation(7)},
-     .shift = {0, 1.25}},
-    {.name = "carton_left",
-     .kind = SampleWindow::corrugado,
-     .dialog = u"FrmMargensPackZPL"_s,
-     .field = u"txtmargem1"_s,
-     .stored = u"3"_s,
-     .changed = u"10"_s,
-     .setting = "PackX=10",
-     .text = u"3104527001"_s,
-     .baseline = {58, 29.7 + liberation(20)},
-     .shift = {7, 0}},
+    // name, kind, dialog, field, stored, changed, setting, text, baseline, shift
+    {"hidden_left", oculta, u"FrmMargensOcultaZPL2"_s, u"txtmargem1"_s, u"3"_s, u"5,5"_s, "Margem_oculta1=5,5", u"527"_s, baseline(33.3, 2, calibri, 20), {2.5, 0}},
+    {"accessory_right", acessorio, u"FrmMargensOcultaZPL2"_s, u"txtmargem2"_s, u"45"_s, u"44"_s, "Margem_oculta11=44", u"5201104"_s, baseline(50.5, 13.8, franklin, 5), {-1, 0}},
+    {"box_front_top", frente_de_caixa, u"FrmMargensCxZPL45"_s, u"txtmargemsuperior"_s, u"3"_s, u"4,25"_s, "Mx4045=4,25", u"3104527001"_s, baseline(2.3, 21, franklin, 7), {0, 1.25}},
+    {"carton_left", corrugado, u"FrmMargensPackZPL"_s, u"txtmargem1"_s, u"3"_s, u"10"_s, "PackX=10", u"3104527001"_s, baseline(58, 29.7, franklin, 20), {7, 0}},
 };
+// clang-format on
 
 class DialogWindowTest : public testing::TestWithParam<Calibration>, protected SampleWindow {
   protected:
@@ -92,20 +55,14 @@ class DialogWindowTest : public testing::TestWithParam<Calibration>, protected S
     }
 
     [[nodiscard]] bool isOpen(const QString& name) {
-        for (const DialogWindow* const dialog : desktop->dialogs()) {
-            if (dialog->objectName() == name) {
-                return dialog->isVisible();
-            }
-        }
-        return false;
+        return std::ranges::any_of(desktop->dialogs(), [&name](const DialogWindow* dialog) {
+            return dialog->objectName() == name && dialog->isVisible();
+        });
     }
 
     // How far the text is from its place with the margins as they were, moved by a shift.
     static double apart(const QString& pdf, const Calibration& calibration, QPointF shift) {
-        const auto pages = pageTexts(pdf);
-        return pages.empty()
-                   ? 1000
-                   : distanceTo(pages.front(), calibration.text, calibration.baseline + shift);
+        return distanceTo(pageTexts(pdf).at(0), calibration.text, calibration.baseline + shift);
     }
 };
 
@@ -143,8 +100,7 @@ TEST_P(DialogWindowTest, testsAMarginWithoutStoringItAndStoresItForTheNextJob) {
     EXPECT_LT(apart(writtenBy(print), calibration, calibration.shift), 0.1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Margins, DialogWindowTest, testing::ValuesIn(calibrations),
-                         [](const auto& calibration) { return calibration.param.name; });
+INSTANTIATE_TEST_SUITE_P(Margins, DialogWindowTest, testing::ValuesIn(calibrations), CaseName());
 
 TEST_F(DialogWindowTest, leadsToTheFirstBlankMarginAndDropsWhatIsNoNumber) {
     load(oculta, "1400050831");

@@ -2,23 +2,14 @@
 
 #include "SmallOrderTest.h"
 #include "desktop/windows/QtFocus.h"
+#include "support/Cases.h"
 
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QComboBox>
-#include <QInputMethodEvent>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QWheelEvent>
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
 namespace etiquetas::test {
-
-using namespace Qt::StringLiterals;
 
 class EventBridgeTest : public SmallOrderTest {
   protected:
@@ -34,10 +25,6 @@ struct TypedField {
     bool lights_up;
 };
 
-static void PrintTo(const TypedField& field, std::ostream* out) {
-    *out << field.name;
-}
-
 class TypedFieldTest : public EventBridgeTest, public testing::WithParamInterface<TypedField> {};
 
 TEST_P(TypedFieldTest, filtersKeysAndShowsWhereTheFocusIs) {
@@ -52,28 +39,31 @@ TEST_P(TypedFieldTest, filtersKeysAndShowsWhereTheFocusIs) {
     EXPECT_EQ(backgroundOf(name), QColor(Qt::white));
 }
 
-INSTANTIATE_TEST_SUITE_P(Fields, TypedFieldTest,
-                         testing::ValuesIn(std::vector<TypedField>{
-                             {.name = "txtarquivo", .written = "A1-B", .lights_up = true},
-                             {.name = "txtcor", .written = "A1-B", .lights_up = true},
-                             {.name = "txtcliente", .written = "A1-B", .lights_up = true},
-                             {.name = "txtlote", .written = "1", .lights_up = false},
-                             {.name = "txtnumero_0", .written = "1", .lights_up = true},
-                             {.name = "txtnumero_1", .written = "1", .lights_up = true},
-                             {.name = "TXTOCULTAS", .written = "1", .lights_up = true},
-                             {.name = "txtbandeira", .written = "a1-b", .lights_up = false},
-                         }),
-                         [](const auto& field) { return field.param.name; });
+// clang-format off
+static const std::vector<TypedField> typed_fields{
+    // name, written, lights up
+    {"txtarquivo", "A1-B", true},
+    {"txtcor", "A1-B", true},
+    {"txtcliente", "A1-B", true},
+    {"txtlote", "1", false},
+    {"txtnumero_0", "1", true},
+    {"txtnumero_1", "1", true},
+    {"TXTOCULTAS", "1", true},
+    {"txtbandeira", "a1-b", false},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(Fields, TypedFieldTest, testing::ValuesIn(typed_fields), CaseName());
 
 TEST_F(EventBridgeTest, runsALeavingEventThatShowsABoxOnce) {
     open();
     worker.type(u"txtarquivo"_s, u"999"_s);
     // The window shows what the fields hold while the box stands.
-    bool white_again = false;
-    worker.beforeAnswer([&] { white_again = backgroundOf(u"txtarquivo"_s) == Qt::white; });
+    QColor during_box;
+    worker.beforeAnswer([&] { during_box = backgroundOf(u"txtarquivo"_s); });
     worker.press(Qt::Key_Tab);
     EXPECT_EQ(boxTexts(), QStringList{u"O Pedido 999, não foi localizado em "_s + folder.path()});
-    EXPECT_TRUE(white_again);
+    EXPECT_EQ(during_box, QColor(Qt::white));
     EXPECT_EQ(worker.focused(), u"cmb_referencia"_s);
     EXPECT_TRUE(worker.widget<QPushButton>(u"cmd_printacessorio"_s).isHidden());
 }
@@ -105,15 +95,15 @@ TEST_F(EventBridgeTest, changesAListByTheWheelOnlyWhileItHasTheFocus) {
     loadOrder();
     auto& kinds = worker.widget<QComboBox>(u"cmbtipo"_s);
     EXPECT_EQ(kinds.focusPolicy(), Qt::StrongFocus) << "a turn must not give it the focus";
-    const auto turnWheel = [&] {
+    const auto turn_wheel = [&] {
         QWheelEvent turn({5, 5}, kinds.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
                          Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&kinds, &turn);
     };
-    turnWheel();
+    turn_wheel();
     EXPECT_EQ(kinds.currentIndex(), oculta);
     worker.click(u"cmbtipo"_s);
-    turnWheel();
+    turn_wheel();
     EXPECT_EQ(kinds.currentIndex(), oculta - 1);
 }
 
@@ -125,7 +115,6 @@ TEST_F(EventBridgeTest, filtersKeysAndComposedTexts) {
     QApplication::sendEvent(&worker.widget<QLineEdit>(u"txtcor"_s), &composed);
     EXPECT_EQ(worker.text(u"txtcor"_s), u"MARROMÇÃ"_s);
     worker.type(u"txtnumero_1"_s, u"1a2,3"_s);
-    EXPECT_EQ(worker.text(u"txtnumero_1"_s), u"123"_s);
     worker.press(Qt::Key_Backspace);
     worker.press(Qt::Key_Home);
     worker.press(Qt::Key_Delete);
@@ -174,10 +163,10 @@ TEST_F(EventBridgeTest, locksAndUnlocksTheSizeRunByDoubleClicks) {
     load(corrugado, "1400050831");
     for (const QString& name : {u"txtgrade1"_s, u"txtgrade2"_s, u"txttotgrade"_s}) {
         const auto& field = worker.widget<QLineEdit>(name);
-        EXPECT_TRUE(field.isReadOnly()) << name.toStdString();
-        worker.doubleClick(name);
-        EXPECT_FALSE(field.isReadOnly()) << name.toStdString();
-        worker.doubleClick(name);
+        for (const bool locked : {true, false}) {
+            EXPECT_EQ(field.isReadOnly(), locked) << name.toStdString();
+            worker.doubleClick(name);
+        }
         EXPECT_TRUE(field.isReadOnly()) << name.toStdString();
     }
 }

@@ -16,10 +16,9 @@ class SmallOrderTest : public testing::Test, protected SampleWindow {
         "3;AZUL;35;;TENIS;231045270200;3104527002;32;BK;A1\r\n";
 
     SmallOrderTest() {
-        write(QStringLiteral("Varesko.ini"),
-              "[MargemOcultaZebra]\r\nMargem_oculta1=3\r\nMargem_oculta11=45\r\n"
-              "Margem_oculta2=3\r\n");
-        write(QStringLiteral("pedido 77 frente.txt"), order_file);
+        write(u"Varesko.ini"_s, "[MargemOcultaZebra]\r\nMargem_oculta1=3\r\nMargem_oculta11=45\r\n"
+                                "Margem_oculta2=3\r\n");
+        write(u"pedido 77 frente.txt"_s, order_file);
     }
 
     void write(const QString& name, const QByteArray& bytes) const {
