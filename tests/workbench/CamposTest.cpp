@@ -139,7 +139,8 @@ TEST_F(CamposTest, AccessoriesAreCountedInItemsAndHaveNoHiddenLabels) {
 TEST_F(CamposTest, TotalsFollowTheQuantitiesAsFarAsSixteenBitsGo) {
     form.txtnumero[0].text = u"12";
     form.txtnumero[5].text = u" ";
-    for (const TextView quantity : {u"3", u"0", u"16371", u"16372", u"20001", u"32760", u"100000", u""}) {
+    for (const TextView quantity :
+         {u"3", u"0", u"16371", u"16372", u"20001", u"32760", u"100000", u""}) {
         form.txtnumero[13].text = quantity;
         EXPECT_EQ(failureOf([&] { txtnumero_leave(form, 13); }), 0);
         machine.tell("==", inQuotes(quantity));

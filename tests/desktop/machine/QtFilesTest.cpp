@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 namespace etiquetas::test {
 
 class QtFilesTest : public testing::Test {
@@ -55,6 +57,17 @@ TEST_F(QtFilesTest, namesTheFileOfAFailure) {
         expectFailure(file_access, file, [&] { files.replace(file, "a"); });
         expectFailure(file_access, file, [&] { files.makeFolder(file); });
     }
+}
+
+TEST_F(QtFilesTest, readsNeitherAPipeNorAFileWithoutEnd) {
+    ASSERT_EQ(mkfifo(name.toUtf8(), S_IRUSR | S_IWUSR), 0);
+    expectFailure(failure_number::file_access, path, [&] { static_cast<void>(files.read(path)); });
+    ASSERT_TRUE(QFile::remove(name));
+    QFile large(name);
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(large.resize(qint64{256} * 1024 * 1024 + 1)); // without a block on the disk
+    expectFailure(failure_number::file_access, u"mais de 256 MB",
+                  [&] { static_cast<void>(files.read(path)); });
 }
 
 TEST_F(QtFilesTest, tellsOfEachFileThatWasRead) {

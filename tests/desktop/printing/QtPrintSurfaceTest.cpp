@@ -3,6 +3,7 @@
 #include "barcodes/EAN13and8.h"
 #include "desktop/machine/QtPictures.h"
 #include "support/Cases.h"
+#include "support/RandomTexts.h"
 #include "tests/desktop/Faults.h"
 #include "tests/desktop/PdfTools.h"
 
@@ -69,6 +70,12 @@ static qsizetype imagesIn(const QString& pdf) {
     QFile file(pdf);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     return file.readAll().count("/Subtype /Image");
+}
+
+TEST_F(QtPrintSurfaceTest, breaksTextsWhereAWalkThroughAllBeginningsBreaksThem) {
+    surface.FontName(u"Calibri");
+    surface.FontSize(7);
+    test::expectBreaksOfAWalk(surface);
 }
 
 TEST_F(QtPrintSurfaceTest, startsAPageOfTheCurrentSizeWithItsFirstDrawing) {
