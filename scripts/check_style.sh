@@ -21,7 +21,7 @@ changed_files() {
         grep -xFf <(all_files) || true
 }
 
-# Sources to look at: the given ones, and those that include a given header.
+# Sources to look at: the given ones that the project builds, and those that include a given header.
 sources_of() {
     local file
     for file in "$@"; do
@@ -30,7 +30,9 @@ sources_of() {
         else
             grep -rlF --include='*.cpp' "\"${file#src/}\"" "${folders[@]}" || true
         fi
-    done | sort -u
+    done | sort -u | while read -r file; do
+        grep -qF "\"$PWD/$file\"" build/check/compile_commands.json && echo "$file"
+    done
 }
 
 case "${1:-}" in

@@ -6,15 +6,15 @@
 
 namespace etiquetas::test {
 
-class Mod_BrowseTest : public testing::Test, protected FakePlatform {};
+class ModBrowseTest : public testing::Test, protected FakePlatform {};
 
-TEST_F(Mod_BrowseTest, PathEndsBeforeItsFirstZeroCharacter) {
+TEST_F(ModBrowseTest, PathEndsBeforeItsFirstZeroCharacter) {
     picked = Text(u"/pedidos\0/x", 11);
     EXPECT_EQ(BrowseFolder(*this, u"Pasta"), u"/pedidos");
     EXPECT_EQ(log, Log{"pick Pasta"});
 }
 
-TEST_F(Mod_BrowseTest, NothingIsPickedWhereThePickerFails) {
+TEST_F(ModBrowseTest, NothingIsPickedWhereThePickerFails) {
     picked = u"/pedidos";
     failing = {"pick"};
     EXPECT_EQ(BrowseFolder(*this, u"Pasta"), u"");

@@ -38,7 +38,7 @@ inline void expectBreaksOfAWalk(const PrintSurface& surface) {
     std::mt19937 chance(1);
     for (int i = 0; i < texts; ++i) {
         const Text text = randomText(chance, most_characters);
-        const float limit = static_cast<float>(chance() % 80);
+        const auto limit = static_cast<float>(chance() % 80);
         EXPECT_EQ(firstPrefix(surface, text, [&](float width) { return width >= limit; }),
                   walkedPrefix(surface, text, limit))
             << utf8(text) << " at " << limit;
