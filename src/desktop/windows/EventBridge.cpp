@@ -13,7 +13,6 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QShortcutEvent>
-#include <QTimer>
 
 #include <limits>
 
@@ -105,6 +104,8 @@ EventBridge::EventBridge(QtFocus& focus, Failed failed)
     // box.
     connect(
         qApp, &QApplication::focusChanged, this, [this] { settleFocus(); }, Qt::QueuedConnection);
+    afterwards_timer_.setSingleShot(true);
+    connect(&afterwards_timer_, &QTimer::timeout, this, [this] { runKept(); });
 }
 
 void EventBridge::add(BridgedWindow window) {
@@ -144,7 +145,13 @@ void EventBridge::run(const std::function<void()>& handler) {
     runAlone(handler);
     if (afterwards_) {
         // The event that the handler belongs to comes to its end first.
-        QTimer::singleShot(0, this, std::exchange(afterwards_, {}));
+        afterwards_timer_.start();
+    }
+}
+
+void EventBridge::runKept() {
+    if (const auto deed = std::exchange(afterwards_, {})) {
+        deed();
     }
 }
 

@@ -4,6 +4,7 @@
 #include "platform/Keys.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <deque>
 #include <functional>
@@ -75,6 +76,7 @@ class EventBridge final : public QObject {
     void watch(FieldRow& row);
     void pullAll();
     void runAlone(const std::function<void()>& handler);
+    void runKept();
     [[nodiscard]] Place placeOf(const QObject* widget);
     [[nodiscard]] QWidget* focusedWidget();
     void giveFocusTo(const TextField& field);
@@ -96,6 +98,7 @@ class EventBridge final : public QObject {
     BridgedWindow* current_ = nullptr;  // the one that was active last
     FieldRow* active_ = nullptr;        // the field that has had its entering event
     std::function<void()> afterwards_;  // what waits for the handler that runs
+    QTimer afterwards_timer_;
     bool running_ = false;
     bool delivering_ = false;
     bool stopped_ = false;
