@@ -21,8 +21,7 @@ Course printAccessories(FrmPadrao& form, const Stock& stock) {
         return Course::ends;
     }
     checkDescription(form, form.txtdescricao); // told only: the labels are printed all the same
-    form.coluna_etiqueta = 1;
-    beginJob(form, stock);
+    beginStrips(form, stock);
     fillMissingPrice(form);
     skip([&] { printItem(form); });
     endJob(form);

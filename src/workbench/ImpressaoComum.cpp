@@ -43,8 +43,9 @@ Course checkDescription(FrmPadrao& form, const TextField& description) {
     return Course::ends;
 }
 
-void beginJob(FrmPadrao& form, const Stock& stock) {
+void beginStrips(FrmPadrao& form, const Stock& stock) {
     selectChosenPrinter(form);
+    form.coluna_etiqueta = 1;
     useMillimetres(form);
     setPage(form, stock);
     readMargins(form, stock);

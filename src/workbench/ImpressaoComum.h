@@ -28,8 +28,9 @@ namespace etiquetas {
 /// Tells the operator where no item is chosen. Not every branch ends then.
 Course checkDescription(FrmPadrao& form, const TextField& description);
 
-/// Sets up a job on a stock: printer, unit, page, margins, font, banner.
-void beginJob(FrmPadrao& form, const Stock& stock);
+/// Sets up a job of labels two across, from the first column on: printer, unit, page, margins,
+/// font, banner.
+void beginStrips(FrmPadrao& form, const Stock& stock);
 
 /// Ends the command where the size that was looked up last has no master code or no barcode.
 [[nodiscard]] Course checkSizeCodes(FrmPadrao& form);

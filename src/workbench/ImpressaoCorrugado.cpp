@@ -6,6 +6,17 @@ namespace etiquetas {
 
 namespace {
 
+// A margin that the settings lack is the default here, whatever it was before.
+void beginCartons(FrmPadrao& form, const Stock& stock) {
+    selectChosenPrinter(form);
+    setDefaultMargins(form, stock);
+    readMargins(form, stock);
+    useMillimetres(form);
+    setPage(form, stock);
+    useLabelFont(form);
+    chooseBanner(form);
+}
+
 void printVolumes(FrmPadrao& form) {
     const std::int16_t first = toInteger16(form.cmb_vol1.text);
     const std::int16_t last = toInteger16(form.cmb_vol2.text);
@@ -24,9 +35,7 @@ Course printCartons(FrmPadrao& form, const Stock& stock) {
         checkCode(form, form.txtcodigo1) == Course::ends) {
         return Course::ends;
     }
-    // A margin that the settings lack is the default here, whatever it was before.
-    setDefaultMargins(form, stock);
-    beginJob(form, stock);
+    beginCartons(form, stock);
     skip([&] { printVolumes(form); });
     endJob(form);
     return Course::goes_on;

@@ -51,12 +51,16 @@ Course printStripSize(FrmPadrao& form, std::size_t slot) {
     return Course::goes_on;
 }
 
-// The label has no margins of its own, and those of the 40 by 20 mm labels are at their defaults.
-void begin100x40Job(FrmPadrao& form, const Stock& stock) {
-    beginJob(form, stock);
+// The page is the printer's own. The label has no margins of its own, and those of the 40 by 20 mm
+// labels are at their defaults.
+void begin100x40Job(FrmPadrao& form) {
+    selectChosenPrinter(form);
+    useMillimetres(form);
     setDefaultMargins(form, stock_40x20);
     form.PackLinhaX = 0.0F;
     form.PackLinhaY = 0.0F;
+    useLabelFont(form);
+    chooseBanner(form);
 }
 
 Course print100x40Size(FrmPadrao& form, std::size_t slot) {
@@ -83,13 +87,13 @@ Course printBoxFronts(FrmPadrao& form, const Stock& stock) {
     return printSizes(form, [&](std::size_t slot) { return printStripSize(form, slot); });
 }
 
-Course printBoxFronts100x40(FrmPadrao& form, const Stock& stock) {
+Course printBoxFronts100x40(FrmPadrao& form, const Stock& /*stock*/) {
     if (askAboutColour(form, form.txtcor) == Course::ends ||
         checkDescription(form, form.txtdescricao) == Course::ends ||
         checkLogos(form) == Course::ends) {
         return Course::ends;
     }
-    begin100x40Job(form, stock);
+    begin100x40Job(form);
     return printSizes(form, [&](std::size_t slot) { return print100x40Size(form, slot); });
 }
 

@@ -38,8 +38,7 @@ Course printHiddenLabels(FrmPadrao& form, const Stock& stock) {
     if (askAboutColour(form, form.txtcor) == Course::ends || checkQuantity(form) == Course::ends) {
         return Course::ends;
     }
-    form.coluna_etiqueta = 1;
-    beginJob(form, stock);
+    beginStrips(form, stock);
     if (form.Frame2.visible) {
         skip([&] { Imprime_CabecAlho(form, u"OCULTA"); });
     }
