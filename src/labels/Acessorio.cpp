@@ -27,12 +27,14 @@ constexpr PriceBlock price{
 };
 
 constexpr auto layout = std::to_array<Row>({
+    {Size{7}},
     {logo},
     {price, hasPrice},
 
     // Two lines of description
     {TrimmedEntry{{7.0F, 7.2F}, small_text, &LabelTexts::linha1}, hasTwoLines},
     {TrimmedEntry{{7.0F, 9.0F}, small_text, &LabelTexts::linha2}, hasTwoLines},
+    {bold, hasTwoLines},
     {drawBars, hasTwoLines},
     {Bars{{{4.6F, 12.9F}, 35.0F, 8.0F}}, hasTwoLines},
     {Entry{{7.0F, 10.8F}, small_text, &LabelTexts::codigo}, hasTwoLines},
@@ -43,6 +45,7 @@ constexpr auto layout = std::to_array<Row>({
 
     // One line, with the rest moved up
     {TrimmedEntry{{7.0F, 7.2F}, small_text, &LabelTexts::linha1}, hasOneLine},
+    {bold, hasOneLine},
     {drawBars, hasOneLine},
     {Bars{{{4.6F, 12.0F}, 35.0F, 8.0F}}, hasOneLine},
     {Entry{{7.0F, 9.3F}, small_text, &LabelTexts::codigo}, hasOneLine},

@@ -46,6 +46,7 @@ constexpr PriceBlock price{
 };
 
 constexpr auto layout = std::to_array<Row>({
+    {plain},
     {takeBarcode},
     {TrimmedEntry{{17.0F, 29.4F}, {plain, 8, face::calibri}, &LabelTexts::semana}},
     {TrimmedEntry{{30.0F, 27.0F}, {bold, 16, face::calibri}, &LabelTexts::promocao},
@@ -67,6 +68,7 @@ constexpr auto layout = std::to_array<Row>({
     {Entry{{2.3F, 24.0F}, line_text, &LabelTexts::linha2}, hasTwoLines},
     {TrimmedEntry{{2.3F, 27.0F}, line_text, &LabelTexts::cor}, hasTwoLines},
     {Face{face::calibri}, hasSize}, // of the digits as well, which are in the face above otherwise
+    {bold, hasSize},
     {Entry{{4.1F, 31.0F}, {bold, 32}, &LabelTexts::numero}, hasSizeOf<1>},
     {Entry{{1.6F, 31.0F}, {bold, 32}, &LabelTexts::numero}, hasSizeOf<2>},
     {Entry{{1.2F, 34.0F}, {bold, 22}, &LabelTexts::numero}, hasSizeOf<3>},
@@ -74,8 +76,9 @@ constexpr auto layout = std::to_array<Row>({
     {Digits{{27.2F, 39.5F}, {plain, 7}, 7, 7}},
 });
 
-constexpr float measuring_points = 7; // for a description of any width
-constexpr float line_limit = 32;      // mm
+constexpr float measuring_points = 7;
+constexpr float very_wide = 45;  // mm
+constexpr float line_limit = 32; // mm
 
 void dropLineEnds(Text& text) {
     std::erase_if(text,
@@ -87,6 +90,9 @@ std::array<TextView, 2> cutDescription(FrmPadrao& form, TextView descricao) {
     PrintSurface& surface = form.platform.surface;
     surface.FontName(form.NomeFonte);
     surface.FontSize(measuring_points);
+    if (surface.TextWidth(descricao) > very_wide) {
+        surface.FontSize(measuring_points); // no description gets a smaller size
+    }
     std::array<TextView, 2> lines{descricao, {}};
     if (surface.TextWidth(descricao) > line_limit) {
         const std::size_t end =

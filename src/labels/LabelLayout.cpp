@@ -37,6 +37,7 @@ class RowDrawer {
         printPrice(surface_, block, origins_.texts, label_.preco);
     }
     void operator()(const Face& face) const { surface_.FontName(face.name); }
+    void operator()(const Size& size) const { surface_.FontSize(size.points); }
     void operator()(Weight weight) const { useWeight(surface_, weight); }
     void operator()(Special draw) const { draw(form_, label_, origins_.texts); }
 

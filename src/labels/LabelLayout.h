@@ -95,6 +95,11 @@ struct Face {
     TextView name;
 };
 
+/// The size in points that stands until a row sets its own.
+struct Size {
+    float points;
+};
+
 /// What is drawn by a rule of its own, `origin` being that of the texts.
 using Special = void (*)(FrmPadrao& form, const LabelTexts& label, const Point& origin);
 
@@ -104,8 +109,8 @@ using Condition = bool (*)(const LabelTexts& label);
 /// A row of a layout, drawn in the place that it has among the others. A `Weight` by itself is left
 /// for the texts that are measured later.
 struct Row {
-    std::variant<Rule, Heading, Entry, TrimmedEntry, Digits, Bars, Logo, PriceBlock, Face, Weight,
-                 Special>
+    std::variant<Rule, Heading, Entry, TrimmedEntry, Digits, Bars, Logo, PriceBlock, Face, Size,
+                 Weight, Special>
         item;
     /// Without a condition all labels have the row.
     Condition only_if = nullptr;

@@ -22,6 +22,9 @@ bool hasDescription(const LabelTexts& label) {
 constexpr Font small_text{plain, 6, face::franklin_medium};
 
 constexpr auto layout = std::to_array<Row>({
+    {Size{7}},
+    {Face{face::calibri}},
+    {bold},
     {Entry{{28.0F, -1.0F}, {bold, 20, face::calibri}, &LabelTexts::ref3}},
     {plain}, // where a barcode is refused, the next description is measured in this weight
     {drawBars},
