@@ -5,16 +5,19 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
-scripts/install_packages.sh run
+scripts/prepare.sh run run
 
-echo "== Building the program"
-cmake --preset run
-cmake --build --preset run --parallel "$(nproc)"
+# A display that is named may be gone: that of a connection that has ended, say. A dead one may also
+# keep whoever asks it waiting.
+display_answers() {
+    [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] &&
+        timeout 10 build/run/bin/etiquetas_demo --display > /dev/null 2>&1
+}
 
 echo "== Laying out build/instalacao"
 cmake --install build/run --prefix build/instalacao > /dev/null
 
-if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+if display_answers; then
     echo "== Opening the Workbench in build/instalacao"
     exec build/instalacao/etiquetas
 fi
@@ -32,3 +35,5 @@ done
 
 echo "== Written:"
 find build/demo -maxdepth 1 -type f | sort
+labels=$(find build/demo -name 'oculta-1400050831-*.png' | sort | head -n 1)
+echo "== Open first the window, build/demo/janela-oculta-1400050831.png, and then its labels, $labels"

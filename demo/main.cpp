@@ -1,5 +1,6 @@
 // Prints an item of every label kind for both banners as an operator would, by keys on the real
-// windows, and leaves pictures of the windows and the written jobs in a folder.
+// windows, and leaves pictures of the windows and the written jobs in a folder. With "--display" it
+// only tells by its exit code whether windows can be shown.
 
 #include "demo/Operator.h"
 
@@ -128,11 +129,14 @@ class Demonstration {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    if (argc == 2 && QApplication::arguments().last() == QStringLiteral("--display")) {
+        return 0; // without a display the toolkit has ended the program before
+    }
     if (argc != 3) {
-        std::fprintf(stderr, "usage: etiquetas_demo INSTALLATION OUTPUT\n");
+        std::fprintf(stderr, "usage: etiquetas_demo INSTALLATION OUTPUT | --display\n");
         return 2;
     }
+    QApplication::setStyle(QStringLiteral("Fusion"));
     const QDir output(QString::fromLocal8Bit(argv[2]));
     output.mkpath(QStringLiteral("."));
     return Demonstration(QString::fromLocal8Bit(argv[1]), output).run();

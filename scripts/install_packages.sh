@@ -56,8 +56,9 @@ fi
 echo "== Packages: installing ${missing[*]}"
 as_root=()
 if [ "$(id -u)" -ne 0 ]; then
-    if ! command -v sudo > /dev/null; then
-        echo "Neither root nor sudo. As root: apt-get install --no-install-recommends ${missing[*]}" >&2
+    if ! command -v sudo > /dev/null || ! sudo true; then
+        echo "Packages are missing and this user may not install them; as root:" \
+            "apt-get update && apt-get install --no-install-recommends ${missing[*]}" >&2
         exit 1
     fi
     as_root=(sudo)
