@@ -25,6 +25,7 @@ if [ "$purpose" = test ]; then
         zbar-tools mupdf-tools    # readers of the printed bars and pages
         fontconfig                # where the fonts are
         xvfb xauth                # a display for the real window
+        strace                    # system calls that fail
     )
 elif [ "$purpose" = check ]; then
     packages+=(

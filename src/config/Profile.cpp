@@ -122,6 +122,10 @@ std::string spliced(std::string_view file, std::size_t start, std::size_t end,
 
 } // namespace
 
+bool isUtf16(std::string_view file) {
+    return file.starts_with("\xFF\xFE") || file.starts_with("\xFE\xFF");
+}
+
 std::optional<std::string> profileValue(std::string_view file, std::string_view section,
                                         std::string_view key) {
     Lines lines(file);

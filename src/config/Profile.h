@@ -10,6 +10,10 @@ namespace etiquetas {
 // Sections and keys compare without regard to the case of ASCII letters. All is bytes here, so
 // that what the program does not know stays as it is when a value is written.
 
+/// Whether the byte order mark of UTF-16 stands at the start of the file, which an editor may have
+/// put there: in such a file no section is found, and nothing may be written into it.
+[[nodiscard]] bool isUtf16(std::string_view file);
+
 /// The value of a key: of two equal sections only the first is searched, of two equal keys the
 /// first counts. Blanks and tabs around it are taken off, and one pair of quotes. Nothing where the
 /// section or the key is missing.

@@ -34,6 +34,11 @@ std::string bytesOf(const Files& files, TextView file) {
     return bytes;
 }
 
+Failure utf16Failure(TextView file) {
+    return {failure_number::file_access, u"Settings",
+            Text(u"O arquivo \"").append(file).append(u"\" está em UTF-16 e não foi alterado.")};
+}
+
 } // namespace
 
 Text settingsPath(const Files& files) {
@@ -49,12 +54,20 @@ Text LeIni(const Files& files, TextView file, TextView section, TextView key,
     return value ? fromCodePage1252(*value) : Text(default_value);
 }
 
+bool settingsAreUtf16(const Files& files) {
+    const Text file = settingsPath(files);
+    return files.fileExists(file) && isUtf16(bytesOf(files, file));
+}
+
 void GravaIni(Files& files, TextView section, TextView key, TextView value, TextView file) {
     skip([&] {
-        // A file that is there but can't be read must not be replaced by one with a single key.
-        const std::string bytes = files.fileExists(file) ? files.read(file) : std::string();
-        files.replace(file, withProfileValue(bytes, toCodePage1252(section), toCodePage1252(key),
-                                             toCodePage1252(value)));
+        files.update(file, [&](std::string_view bytes) {
+            if (isUtf16(bytes)) {
+                throw utf16Failure(file);
+            }
+            return withProfileValue(bytes, toCodePage1252(section), toCodePage1252(key),
+                                    toCodePage1252(value));
+        });
     });
 }
 

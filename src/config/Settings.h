@@ -48,8 +48,11 @@ inline constexpr TextView default_hidden_format = u"3";
 [[nodiscard]] Text LeIni(const Files& files, TextView file, TextView section, TextView key,
                          TextView default_value);
 
+/// Whether the settings file is there in UTF-16: it can't be used then, and is never written to.
+[[nodiscard]] bool settingsAreUtf16(const Files& files);
+
 /// Writes the value of one key as code page 1252 and replaces the file in one step; creates what is
-/// missing. A file that can't be written stays as it is, without a word.
+/// missing. A file that can't be read or written, or is in UTF-16, stays as it is, without a word.
 void GravaIni(Files& files, TextView section, TextView key, TextView value, TextView file);
 
 /// Deletes the command file of the direct printer channel from the program's folder, where there is

@@ -1,7 +1,9 @@
 #include "desktop/Desktop.h"
 
+#include "desktop/LeftDrafts.h"
 #include "desktop/LogEntries.h"
 #include "desktop/machine/QtText.h"
+#include "desktop/printing/PdfFile.h"
 #include "desktop/windows/DialogTable.h"
 #include "desktop/windows/FieldTable.h"
 #include "workbench/Inicio.h"
@@ -19,6 +21,9 @@ Desktop::Desktop(const QString& folder)
                                           focus_, pointer_, process_, folders_, commands_}),
       bridge_(focus_, [this](const QString& description) { endOnFailure(description); }) {
     keepLog();
+    for (const QString& draft : removeLeftDrafts(folder)) {
+        logDraftRemoved(log_, draft);
+    }
     bridgeWindows();
     messages_.standOver([this] { return windowUnderBoxes(); }, [this] { bridge_.pushAll(); });
     process_.onEnd([this] { end(0); });
@@ -44,7 +49,7 @@ QWidget* Desktop::windowUnderBoxes() {
 }
 
 void Desktop::tellOfJob(const QString& path) {
-    const QString folder = QStringLiteral("impressos/");
+    const QString folder = pdf_folder.toString() + u'/';
     window_.tell(path.isEmpty() ? QStringLiteral("Etiquetas não gravadas em ") + folder
                                 : QStringLiteral("Etiquetas gravadas em ") + folder +
                                       QFileInfo(path).fileName(),

@@ -87,6 +87,10 @@ void logAnswer(Log& log, Answer answer) {
     log.info(u"Resposta: %1"_s.arg(nameOf(answer)));
 }
 
+void logDraftRemoved(Log& log, const QString& path) {
+    log.info(u"Rascunho antigo removido: \"%1\""_s.arg(path));
+}
+
 void logSkipped(Log& log, const Failure& failure) {
     log.warning(u"Falha ignorada: %1 (%2, número %3)"_s.arg(toQString(failure.description()),
                                                             toQString(failure.source()),

@@ -31,6 +31,9 @@ void logJob(Log& log, const EndedJob& job);
 void logMessage(Log& log, const Message& message);
 void logAnswer(Log& log, Answer answer);
 
+/// A draft of a file that a killed program had left and that was removed.
+void logDraftRemoved(Log& log, const QString& path);
+
 /// A failure that was passed over.
 void logSkipped(Log& log, const Failure& failure);
 /// What ends the program.

@@ -92,8 +92,11 @@ void pega_imagem(FrmPadrao& form) {
     form.pctimage.picture.reset();
     const Files& files = form.platform.files;
     const Text folder = joined(files, files.programFolder(), photograph_folder);
-    const auto photograph =
-        findFile(files, folder, Text(trimmed(form.txtcodigo.text)).append(u".jpg"));
+    const TextView code = trimmed(form.txtcodigo.text);
+    if (!isPlainName(files, code)) {
+        return;
+    }
+    const auto photograph = findFile(files, folder, Text(code).append(u".jpg"));
     if (!photograph) {
         return;
     }

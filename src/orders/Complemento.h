@@ -16,7 +16,7 @@ void ret_codcomplemento(FrmPadrao& form, TextView tamanho);
 [[nodiscard]] Text DigitoEan(TextView codigo);
 
 /// Loads the photograph of the product into `pctimage`, or clears it where there is none or where
-/// its file is no picture.
+/// its file is no picture. A code that is no plain file name has none.
 void pega_imagem(FrmPadrao& form);
 
 } // namespace etiquetas

@@ -4,12 +4,21 @@
 
 namespace etiquetas {
 
+void Files::update(TextView path, const Change& change) {
+    replace(path, change(fileExists(path) ? read(path) : std::string()));
+}
+
 Text joined(const Files& files, TextView folder, TextView name) {
     Text path(folder);
     if (path.empty() || path.back() != files.separator()) {
         path += files.separator();
     }
     return path.append(name);
+}
+
+bool isPlainName(const Files& files, TextView name) {
+    return name.find_first_of(Text(u"/\\") + files.separator()) == TextView::npos &&
+           name.find(u"..") == TextView::npos;
 }
 
 std::optional<Text> findFile(const Files& files, TextView folder, TextView name) {

@@ -18,6 +18,9 @@ struct Raster {
     int width = 0;
     int height = 0;
     std::vector<Pixel> pixels;
+    /// Pixels of the file to one of these, along a side: more than 1 where a large picture was
+    /// decoded smaller than it is stored.
+    float shrink = 1;
 
     /// The pixel in column `x` and row `y`, both counted from 0 and inside the raster.
     [[nodiscard]] Pixel at(int x, int y) const {

@@ -15,7 +15,8 @@ namespace etiquetas {
 inline constexpr int user_defined_paper = 256;
 inline constexpr int filled_box = 36;
 
-/// The part of a picture that a stamp takes, in pixels of the picture; what is absent is its edge.
+/// The part of a picture that a stamp takes, in pixels of the picture as it is stored; what is
+/// absent is its edge.
 struct SourceArea {
     std::optional<float> x;
     std::optional<float> y;

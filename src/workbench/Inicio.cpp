@@ -128,6 +128,22 @@ void readSettings(FrmPadrao& form) {
     form.lblpath.caption = read(ini_section::impressora, printer_key::order_folder);
 }
 
+// Told behind all other steps, so that it comes between none of them.
+void tellOfUtf16Settings(FrmPadrao& form) {
+    if (!settingsAreUtf16(form.platform.files)) {
+        return;
+    }
+    const Text text =
+        u"O arquivo de configuração\n" + settingsPath(form.platform.files) +
+        u"\nestá gravado em Unicode (UTF-16). Assim ele não é lido nem alterado.\n\n"
+        u"Abra o arquivo no editor de textos, salve-o com a codificação ANSI (Windows-1252) e "
+        u"inicie o programa de novo.";
+    skip([&] {
+        form.platform.messages.show(
+            {.text = text, .symbol = Symbol::exclamation, .title = u"ATENÇÃO!!!"});
+    });
+}
+
 Text versionText() {
     return u" [Versão: " + numberText(version_major) + u"." + numberText(version_minor) + u"." +
            numberText(version_patch) + u"]";
@@ -151,6 +167,7 @@ void FrmPadrao_load(FrmPadrao& form) {
     form.Caption += versionText();
     VerificaFontes(form.platform.surface, form.platform.pointer, form.platform.messages);
     form.NomeFonte = u"Estrangelo Edessa";
+    tellOfUtf16Settings(form);
 }
 
 void FrmPadrao_resize(FrmPadrao& form) {

@@ -38,4 +38,15 @@ TEST_F(SettingsTest, FileThatCanNotBeReadIsNotReplaced) {
     EXPECT_EQ(file, "[config]\r\nLOTE=5\r\n");
 }
 
+TEST_F(SettingsTest, FileInUtf16IsToldAndNotWrittenTo) {
+    EXPECT_FALSE(settingsAreUtf16(files));
+    for (const std::string mark : {"\xFF\xFE", "\xFE\xFF"}) {
+        file = mark + "[Config]";
+        const std::string before = file;
+        GravaIni(files, u"Config", u"Lote", u"6", settingsPath(files));
+        EXPECT_EQ(file, before);
+        EXPECT_TRUE(settingsAreUtf16(files));
+    }
+}
+
 } // namespace etiquetas::test

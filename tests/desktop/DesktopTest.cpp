@@ -61,6 +61,35 @@ TEST_F(DesktopTest, logsFailuresThatItPassesOverAndTheOneThatEndsIt) {
     EXPECT_TRUE(matchesGolden(log(), "log_failures"));
 }
 
+TEST_F(DesktopTest, removesOldDraftsAndNothingElseAtItsStart) {
+    struct Left {
+        QString name;
+        int minutes;
+        bool stays;
+    };
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"impressos"_s));
+    const std::vector<Left> left{{u".0a1b.rascunho"_s, 61, false},
+                                 {u".0a1c.rascunho"_s, 59, true}, // of a program that runs
+                                 {u"Varesko.ini.backup"_s, 99, true},
+                                 {u"impressos/.impressao-aBcDeF.pdf"_s, 61, false},
+                                 {u"impressos/.impressao-aBcDeG.pdf"_s, 59, true},
+                                 {u"impressos/2024-03-05 07-08-09.pdf"_s, 99, true}};
+    for (const Left& file : left) {
+        QFile draft(folder.filePath(file.name));
+        ASSERT_TRUE(draft.open(QIODevice::WriteOnly));
+        const auto time = QDateTime::currentDateTime().addSecs(-60 * file.minutes);
+        ASSERT_TRUE(draft.setFileTime(time, QFileDevice::FileModificationTime));
+    }
+    open();
+    for (const Left& file : left) {
+        EXPECT_EQ(QFile::exists(folder.filePath(file.name)), file.stays) << qPrintable(file.name);
+    }
+    const auto lines = log();
+    EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
+                            [](const auto& line) { return line.find("removido") < line.size(); }),
+              2);
+}
+
 TEST_F(DesktopTest, runsWithoutALogWhereItCanNotBeWritten) {
     ASSERT_TRUE(QDir(folder.path()).mkdir(u"etiquetas.log"_s));
     open();

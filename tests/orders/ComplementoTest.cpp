@@ -11,12 +11,17 @@ class ComplementoTest : public testing::Test, protected LoadedWorkbench {};
 TEST_F(ComplementoTest, PhotographOfTheProduct) {
     machine.files.bytes[u"/programa/imagens/3104527.JPG"] = "JPEG";
     machine.files.bytes[u"/programa/imagens/3104528.jpg"] = "no picture";
+    for (const TextView outside : {u"a/b.jpg", u"a\\b.jpg", u"a..b.jpg"}) {
+        machine.files.bytes[u"/programa/imagens/" + Text(outside)] = "JPEG";
+    }
     struct Product {
         TextView code;
         bool has_photograph;
     };
-    for (const Product& product : {Product{u"3104527 ", true}, Product{u"3104528", false},
-                                   Product{u"3104527", true}, Product{u"3104529", false}}) {
+    for (const Product& product :
+         {Product{u"3104527 ", true}, Product{u"3104528", false}, Product{u"3104527", true},
+          Product{u"3104529", false}, Product{u"a/b", false}, Product{u"a\\b", false},
+          Product{u"a..b", false}}) {
         form.txtcodigo.text = product.code;
         EXPECT_EQ(failureOf([&] { pega_imagem(form); }), 0);
         EXPECT_EQ(form.tem_imagem, product.has_photograph) << utf8(product.code);

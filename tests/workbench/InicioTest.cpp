@@ -135,6 +135,14 @@ TEST_F(InicioTest, FailingStepsArePassedOver) {
     EXPECT_EQ(form.Height, 10065);
 }
 
+TEST_F(InicioTest, SettingsInUtf16AreToldBehindAllOtherSteps) {
+    machine.files.bytes = {{settings_file, "\xFF\xFE"}};
+    FrmPadrao_load(form);
+    EXPECT_EQ(machine.log[machine.log.size() - 2], "pointer normal");
+    EXPECT_TRUE(machine.log.back().starts_with("message exclamation ok [ATENÇÃO!!!] O arquivo"));
+    EXPECT_NE(machine.log.back().find(utf8(settings_file)), std::string::npos);
+}
+
 TEST_F(InicioTest, WindowThatIsClosedClosesTheMarginDialogs) {
     for (MargensDialog* const dialog :
          {&form.FrmMargensOcultaZPL2, &form.FrmMargensCxZPL45, &form.FrmMargensPackZPL}) {

@@ -4,12 +4,17 @@
 #include "desktop/machine/QtText.h"
 #include "desktop/machine/WholeFile.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
+#include <QThread>
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
+#include <system_error>
 
 namespace etiquetas {
 
@@ -27,6 +32,36 @@ constexpr qint64 most_bytes = qint64{256} * 1024 * 1024;
 Failure tooLarge(TextView path) {
     return {failure_number::file_access, u"Files",
             Text(u"O arquivo \"").append(path).append(u"\" tem mais de 256 MB.")};
+}
+
+Failure inUse(TextView path) {
+    return {failure_number::file_access, u"Files",
+            Text(u"O arquivo \"").append(path).append(u"\" está em uso por outro programa.")};
+}
+
+// Surely so: a file that can't be asked after, on a share that fails say, is not missing.
+bool isMissing(TextView path) {
+    std::error_code error;
+    const auto status =
+        std::filesystem::status(QFileInfo(toQString(path)).filesystemFilePath(), error);
+    return status.type() == std::filesystem::file_type::not_found;
+}
+
+// The toolkit's own wait doubles its pauses, so that a program that writes again and again would
+// keep others out.
+void take(QLockFile& lock, TextView path) {
+    constexpr int patience = 1000;  // milliseconds
+    constexpr unsigned pause = 250; // microseconds
+    const QDeadlineTimer end(patience);
+    while (!lock.tryLock(0)) {
+        if (lock.error() != QLockFile::LockFailedError) {
+            throw fileFailure(u"gravar o arquivo", path);
+        }
+        if (end.hasExpired()) {
+            throw inUse(path);
+        }
+        QThread::usleep(pause);
+    }
 }
 
 } // namespace
@@ -88,6 +123,19 @@ void QtFiles::replace(TextView path, std::string_view bytes) {
     if (!writeWhole(toQString(path), bytes)) {
         throw fileFailure(u"gravar o arquivo", path);
     }
+}
+
+void QtFiles::update(TextView path, const Change& change) {
+    // A change takes milliseconds. What is older was left by a program on another machine, or by
+    // one that was killed before it had put its name in; of others of this machine the lock knows.
+    constexpr int stale = 5000;                 // milliseconds
+    constexpr unsigned others_have_time = 1000; // microseconds, more than the pause of who waits
+    QLockFile lock(toQString(path) + QStringLiteral(".lock"));
+    lock.setStaleLockTime(stale);
+    take(lock, path);
+    replace(path, change(isMissing(path) ? std::string() : read(path)));
+    lock.unlock();
+    QThread::usleep(others_have_time);
 }
 
 } // namespace etiquetas

@@ -40,6 +40,10 @@ class QtFiles final : public Files {
     [[nodiscard]] std::string read(TextView path) const override;
     void replace(TextView path, std::string_view bytes) override;
 
+    /// Keeps other programs out by a lock file beside the file, for which it waits up to a second;
+    /// fails then. A lock whose program was killed counts for nothing.
+    void update(TextView path, const Change& change) override;
+
   private:
     Text program_folder_;
     FileRead file_read_ = [](TextView, std::size_t) {};

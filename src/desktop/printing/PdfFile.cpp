@@ -1,12 +1,10 @@
 #include "desktop/printing/PdfFile.h"
 
-#include "desktop/machine/WholeFile.h"
+#include "desktop/machine/Draft.h"
 #include "desktop/printing/PrintFailure.h"
 
-#include <QByteArray>
 #include <QDir>
 #include <QFile>
-#include <QTemporaryFile>
 
 #include <algorithm>
 
@@ -20,25 +18,22 @@ Failure notWritten(const QString& folder) {
     return printFailure(u"Não foi possível gravar as etiquetas na pasta \"%1\"."_s.arg(folder));
 }
 
-QByteArray bytesOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // The writer of PDF files does not tell of a full disk. What it writes last shows that all is
 // there.
-bool isComplete(const QByteArray& pdf) {
-    constexpr qsizetype tail = 16; // bytes
-    return pdf.last(std::min(tail, pdf.size())).trimmed().endsWith("%%EOF");
+bool isComplete(QFile& pdf) {
+    constexpr qint64 tail = 16; // bytes
+    return pdf.seek(std::max(pdf.size() - tail, qint64{0})) &&
+           pdf.readAll().trimmed().endsWith("%%EOF");
 }
 
-QString freeName(const QDir& folder, const QDateTime& time) {
+bool isSafe(const QString& path) {
+    QFile pdf(path);
+    return pdf.open(QIODevice::ReadWrite) && isComplete(pdf) && forceToDisk(pdf);
+}
+
+QString jobName(const QDateTime& time, int number) {
     const QString stem = time.toString(u"yyyy-MM-dd HH-mm-ss"_s);
-    QString name = stem + u".pdf"_s;
-    for (int number = 2; folder.exists(name); ++number) {
-        name = u"%1 (%2).pdf"_s.arg(stem).arg(number);
-    }
-    return folder.filePath(name);
+    return number == 1 ? stem + u".pdf"_s : u"%1 (%2).pdf"_s.arg(stem).arg(number);
 }
 
 } // namespace
@@ -46,16 +41,19 @@ QString freeName(const QDir& folder, const QDateTime& time) {
 QString writePdfFile(const QString& folder, const QDateTime& time,
                      const std::function<void(const QString& path)>& write) {
     const QDir place(folder);
-    QTemporaryFile draft(place.filePath(u".impressao-XXXXXX.pdf"_s));
-    if (!place.mkpath(u"."_s) || !draft.open()) {
+    place.mkpath(u"."_s);
+    const Draft draft(place, pdf_drafts);
+    if (!draft.isMade()) {
         throw notWritten(folder);
     }
-    const QString draft_path = draft.fileName();
-    draft.close();
-    write(draft_path);
-    const QByteArray pdf = bytesOf(draft_path);
-    QString path = freeName(place, time);
-    if (!isComplete(pdf) || !writeWhole(path, pdf)) {
+    write(draft.path());
+    NewName name = isSafe(draft.path()) ? NewName::taken : NewName::refused;
+    QString path;
+    for (int number = 1; name == NewName::taken; ++number) {
+        path = place.filePath(jobName(time, number));
+        name = draft.take(path);
+    }
+    if (name == NewName::refused) {
         throw notWritten(folder);
     }
     return path;

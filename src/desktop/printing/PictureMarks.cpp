@@ -74,9 +74,10 @@ bool samePicture(const std::weak_ptr<const Raster>& kept, const Picture& picture
     return !kept.owner_before(picture) && !picture.owner_before(kept);
 }
 
-// The nearest edge between pixels, from 0 to `size`; `fallback` where none is told.
-int edge(std::optional<float> position, int fallback, int size) {
-    const float told = position.value_or(static_cast<float>(fallback));
+// The nearest edge between pixels, from 0 to `size`, of a position in the stored picture;
+// `fallback` where none is told.
+int edge(std::optional<float> position, float shrink, int fallback, int size) {
+    const float told = position ? *position / shrink : static_cast<float>(fallback);
     return static_cast<int>(std::lround(std::clamp(told, 0.0F, static_cast<float>(size))));
 }
 
@@ -87,10 +88,13 @@ std::optional<float> sum(std::optional<float> start, std::optional<float> length
 } // namespace
 
 QRect cropOf(const Raster& picture, const SourceArea& source) {
-    const int left = edge(source.x, 0, picture.width);
-    const int top = edge(source.y, 0, picture.height);
-    const int right = edge(sum(source.x, source.width), picture.width, picture.width);
-    const int bottom = edge(sum(source.y, source.height), picture.height, picture.height);
+    const auto edge_at = [&](std::optional<float> position, int fallback, int size) {
+        return edge(position, picture.shrink, fallback, size);
+    };
+    const int left = edge_at(source.x, 0, picture.width);
+    const int top = edge_at(source.y, 0, picture.height);
+    const int right = edge_at(sum(source.x, source.width), picture.width, picture.width);
+    const int bottom = edge_at(sum(source.y, source.height), picture.height, picture.height);
     return {left, top, right - left, bottom - top};
 }
 

@@ -37,7 +37,7 @@ QColor colourOf(Pixel pixel) {
 } // namespace
 
 QtPrintSurface::QtPrintSurface(const QtPrinters& printers, const QString& folder, Clock clock)
-    : printers_(&printers), folder_(QDir(folder).filePath(u"impressos"_s)),
+    : printers_(&printers), folder_(QDir(folder).filePath(pdf_folder.toString())),
       clock_(std::move(clock)), fonts_(installedFamilies()),
       faces_(offeredFaces(fonts_.families())) {
     selectFont();

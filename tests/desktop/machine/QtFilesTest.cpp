@@ -3,6 +3,8 @@
 #include "tests/desktop/Faults.h"
 
 #include <QDir>
+#include <QLockFile>
+#include <QSysInfo>
 #include <QTemporaryDir>
 
 #include <sys/stat.h>
@@ -68,6 +70,26 @@ TEST_F(QtFilesTest, readsNeitherAPipeNorAFileWithoutEnd) {
     ASSERT_TRUE(large.resize(qint64{256} * 1024 * 1024 + 1)); // without a block on the disk
     expectFailure(failure_number::file_access, u"mais de 256 MB",
                   [&] { static_cast<void>(files.read(path)); });
+}
+
+TEST_F(QtFilesTest, changesAFileUnderALockAndNotWhereItIsHeld) {
+    const auto append = [](std::string_view bytes) { return std::string(bytes) + "x"; };
+    const QString lock_name = name + u".lock"_s;
+    files.update(path, append);
+    // The lock of a program that is no more.
+    QFile left(lock_name);
+    ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    left.write("999999999\netiquetas\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    left.close();
+    files.update(path, append);
+    EXPECT_EQ(files.read(path), "xx");
+    EXPECT_FALSE(QFile::exists(lock_name));
+    QLockFile held(lock_name);
+    ASSERT_TRUE(held.lock());
+    expectFailure(failure_number::file_access, path, [&] { files.update(path, append); });
+    EXPECT_EQ(files.read(path), "xx");
+    const Text nowhere = toText(folder.filePath(u"falta/a.txt"_s));
+    expectFailure(failure_number::file_access, nowhere, [&] { files.update(nowhere, append); });
 }
 
 TEST_F(QtFilesTest, tellsOfEachFileThatWasRead) {

@@ -10,6 +10,8 @@ TEST(CropOf, staysWithinTheEdgesOfThePicture) {
     EXPECT_EQ(cropOf(picture, {.x = -20, .width = 40}), QRect(0, 0, 20, 10));
     EXPECT_EQ(cropOf(picture, {.y = 5, .height = 3}), QRect(0, 5, 40, 3));
     EXPECT_TRUE(cropOf(picture, {.x = 50}).isEmpty());
+    const Raster shrunk{40, 10, {}, 10};
+    EXPECT_EQ(cropOf(shrunk, {.x = 50, .width = 300}), QRect(5, 0, 30, 10));
 }
 
 TEST(PictureMarks, stampsEqualRowsOfBarsAsOneImageOfOneRowAndBlankOnesAsPaper) {
