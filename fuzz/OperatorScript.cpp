@@ -258,19 +258,17 @@ class Script {
 
     /// Runs the script until the program ends: by its exit, or by a failure that no one caught.
     void run(std::string_view lines) {
-        FrmPadrao_load(form_);
         int left = most_events;
         while (!lines.empty() && !machine_.ended && left-- > 0) {
             const Text line = fromCodePage1252(takeLine(lines));
             if (!isOfTheMachine(line) && !goesThrough([&] { runEvent(line); })) {
                 return;
             }
-            checkForm();
         }
     }
 
   private:
-    static constexpr int most_events = 200;
+    static constexpr int most_events = 100;
 
     bool isOfTheMachine(TextView line) {
         if (const auto refused = argumentOf(line, u"refuse")) {
@@ -281,6 +279,9 @@ class Script {
             machine_.picked = folder->text;
         } else if (const auto setting = argumentOf(line, u"ini")) {
             addLine(settings_path, *setting);
+        } else if (const auto file = argumentOf(line, u"remove")) {
+            keeps_settings_ = keeps_settings_ && file->text != u"Varesko.ini";
+            machine_.bytes.erase(u"/programa/" + Text(file->text));
         } else if (const auto box = argumentOf(line, u"frente")) {
             addLine(u"/programa/77 FRENTE.txt", *box);
         } else if (const auto carton = argumentOf(line, u"corrugado")) {
@@ -297,12 +298,22 @@ class Script {
         machine_.bytes[file].append(toCodePage1252(line.text)).append("\r\n");
     }
 
+    void start() {
+        FrmPadrao_load(form_);
+        FrmPadrao_resize(form_);
+        started_ = true;
+    }
+
     void runEvent(TextView line) {
+        if (!started_) {
+            start();
+        }
         machine_.loadPaper();
         machine_.passed_over = 0;
         for (const Event& event : events) {
             if (const auto argument = argumentOf(line, event.name)) {
                 event.run(form_, *argument);
+                checkForm();
                 return;
             }
         }
@@ -326,10 +337,10 @@ class Script {
         require(form_.coluna_etiqueta >= 1, "There is a column");
         require(!form_.NomeFonte.empty(), "There is a font");
         require(!form_.tem_imagem || form_.pctimage.picture, "There is a photograph if it is told");
-        const auto settings = machine_.bytes.find(settings_path);
-        require(settings != machine_.bytes.end() &&
-                    profileValue(settings->second, "Alheio", "x") == "fica",
-                "What the program does not know stays in the settings");
+        if (keeps_settings_) {
+            require(profileValue(machine_.bytes.at(settings_path), "Alheio", "x") == "fica",
+                    "What the program does not know stays in the settings");
+        }
     }
 
     static void checkList(const ListField& list) {
@@ -343,6 +354,8 @@ class Script {
     Machine machine_;
     Refusals refusals_;
     FrmPadrao form_{machine_.platform()};
+    bool started_ = false;
+    bool keeps_settings_ = true; // false once the script has taken them away
 };
 
 } // namespace

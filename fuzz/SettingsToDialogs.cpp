@@ -112,6 +112,8 @@ void checkLanguageDialog(Shop& shop, MargensLinguagem dialog) {
     require(shop.machine.bytes.contains(u"/programa/epltemp.prn"), "A test label is a job");
     txtmargem1_enter(dialog, 0);
     txtmargemsuperior_enter(dialog);
+    require(txtmargem1_key(dialog, 0, u'.') == u',', "The keypad writes decimals");
+    require(txtmargemsuperior_key(dialog, u'x') == key::none, "A letter is no part of a margin");
     MargensLinguagem_cmd_exit(dialog);
 }
 

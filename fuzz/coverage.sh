@@ -32,7 +32,8 @@ if [ "${1:-}" = --lines ]; then
     exit
 fi
 report=$(llvm-cov report "${objects[@]}" -instr-profile="$work/all.profdata" \
-    -show-functions=false -show-region-summary=false -show-branch-summary=false "${core[@]}")
+    -show-functions=false -show-region-summary=false -show-branch-summary=false "${core[@]}" \
+    2> "$work/report.log") # each program has a main routine of that one name, which it warns of
 awk '/%/ { print $NF, $1 }' <<< "$report" | sort -n
 # The last column of the last line.
 reached=$(awk '/^TOTAL/ { print substr($NF, 1, length($NF) - 1) }' <<< "$report")
