@@ -5,7 +5,6 @@
 #include "desktop/machine/QtText.h"
 #include "desktop/machine/RasterImage.h"
 
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontMetrics>
@@ -19,6 +18,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <ctime>
 #include <memory>
 #include <utility>
 
@@ -36,9 +36,8 @@ constexpr std::int64_t most_bytes = 24 * megabyte;
 // The decoder's memory, the file included.
 constexpr std::int64_t most_memory = 64 * megabyte;
 
-// Milliseconds until no more of a file is read or decoded. The rest of a second is left for its
-// last steps.
-constexpr int decoding_time = 600;
+// Seconds until no more of a file is decoded; the rest of one is left for the last steps.
+constexpr double decoding_time = 0.6;
 
 // Pixels of the longer side. The widest picture of a label is the logo of the carton, 70 mm, and
 // the finest print heads have 600 dots to the inch; the window shows less, on any screen.
@@ -49,17 +48,12 @@ Failure invalidPicture(TextView path) {
             Text(u"Imagem inválida: o arquivo \"").append(path).append(u"\" não é JPEG.")};
 }
 
-// The bytes of a regular file as far as they can be read in time; none where it is larger than a
-// picture. A pipe or a device would keep the program waiting.
-QByteArray bytesOf(const QString& path, const QDeadlineTimer& end) {
+// All bytes of a regular file; none where it is larger than a picture. A pipe or a device would
+// keep the program waiting.
+QByteArray bytesOf(const QString& path) {
     QFile file(path);
-    QByteArray bytes;
-    if (QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) && file.size() <= most_bytes) {
-        while (!file.atEnd() && bytes.size() < most_bytes && !end.hasExpired()) {
-            bytes += file.read(megabyte);
-        }
-    }
-    return bytes;
+    const bool readable = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
+    return readable && file.size() <= most_bytes ? file.read(most_bytes) : QByteArray();
 }
 
 std::int64_t pixelsOf(const QSize& size) {
@@ -91,11 +85,23 @@ std::int64_t memoryFor(const JpegShape& shape, const QSize& stored, const QSize&
                     (grey_pixel + pixel) * decoded + pixel * pixelsOf(shown));
 }
 
+// A clock of the time that the processor works for the program: what it does for others must not
+// decide whether a label has its photograph.
+class WorkClock {
+  public:
+    [[nodiscard]] double seconds() const {
+        return static_cast<double>(std::clock() - start_) / CLOCKS_PER_SEC;
+    }
+
+  private:
+    std::clock_t start_ = std::clock();
+};
+
 // Gives out bytes until the time is over. In small pieces, since a few bytes may tell the decoder
 // to go over the whole picture again.
 class TimedBytes final : public QIODevice {
   public:
-    TimedBytes(QByteArrayView bytes, const QDeadlineTimer& end) : bytes_(bytes), end_(end) {
+    explicit TimedBytes(QByteArrayView bytes) : bytes_(bytes) {
         open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     }
 
@@ -105,7 +111,7 @@ class TimedBytes final : public QIODevice {
   protected:
     qint64 readData(char* to, qint64 most) override {
         constexpr qint64 piece = 64;
-        ran_out_ = ran_out_ || end_.hasExpired();
+        ran_out_ = ran_out_ || clock_.seconds() > decoding_time;
         if (ran_out_) {
             return -1;
         }
@@ -118,12 +124,12 @@ class TimedBytes final : public QIODevice {
 
   private:
     QByteArrayView bytes_;
-    QDeadlineTimer end_;
+    WorkClock clock_;
     bool ran_out_ = false;
 };
 
-QImage decoded(QByteArrayView bytes, const QSize& size, const QDeadlineTimer& end) {
-    TimedBytes device(bytes, end);
+QImage decoded(QByteArrayView bytes, const QSize& size) {
+    TimedBytes device(bytes);
     QImageReader reader(&device, "jpg");
     reader.setAutoTransform(true);
     reader.setScaledSize(size);
@@ -132,12 +138,12 @@ QImage decoded(QByteArrayView bytes, const QSize& size, const QDeadlineTimer& en
 }
 
 // Without a pixel where the file is no picture, or one beyond the limits.
-QImage shownImage(QByteArrayView bytes, const JpegShape& shape, const QDeadlineTimer& end) {
+QImage shownImage(QByteArrayView bytes, const JpegShape& shape) {
     const QSize stored(shape.width, shape.height);
     const QSize shown = shownSize(stored);
     const bool fits = pixelsOf(stored) <= most_pixels &&
                       bytes.size() + memoryFor(shape, stored, shown) <= most_memory;
-    return fits ? decoded(bytes, shown, end) : QImage();
+    return fits ? decoded(bytes, shown) : QImage();
 }
 
 QImage blankImage(int width, int height) {
@@ -154,10 +160,9 @@ QImage blankImage(int width, int height) {
 } // namespace
 
 Picture QtPictures::load(TextView path) {
-    const QDeadlineTimer end(decoding_time);
-    const QByteArray bytes = bytesOf(toQString(path), end);
+    const QByteArray bytes = bytesOf(toQString(path));
     const auto shape = shapeOfWholeJpeg({bytes.data(), static_cast<std::size_t>(bytes.size())});
-    const QImage image = shape ? shownImage(bytes, *shape, end) : QImage();
+    const QImage image = shape ? shownImage(bytes, *shape) : QImage();
     if (image.isNull()) {
         throw invalidPicture(path);
     }
