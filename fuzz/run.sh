@@ -25,7 +25,7 @@ for target in "${targets[@]}"; do
     learnt=build/fuzz/learnt/$target
     log=build/fuzz/$target.log
     mkdir -p "$learnt"
-    if ! "build/fuzz/fuzz/$target" -max_total_time="$seconds" -timeout=20 -max_len=4096 \
+    if ! "build/fuzz/fuzz/$target" -max_total_time="$seconds" -timeout=20 \
         -artifact_prefix="build/fuzz/finds/$target-" "$learnt" "fuzz/corpus/$target" > "$log" 2>&1; then
         grep -a -m 1 -B 3 -A 30 -E 'Broken:|runtime error:|ERROR:' "$log" >&2 || tail -n 40 "$log" >&2
         echo "== $target: a find; its input: $(grep -a -o 'build/fuzz/finds/.*' "$log" | tail -n 1)" >&2

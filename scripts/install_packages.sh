@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for a purpose: "run" (build the program and run it),
-# "test" (build and run the tests as well), "check" (look at form and style, and build with Clang) or
-# "bench" (build and run the benchmarks). With nothing missing it only looks, and is quick.
+# "test" (build and run the tests as well), "check" (look at form and style, and build with Clang),
+# "bench" (build and run the benchmarks) or "fuzz" (build and run the fuzz targets). With nothing
+# missing it only looks, and is quick.
 set -euo pipefail
 
 case "${1:-}" in
-    run | test | check | bench) purpose=$1 ;;
+    run | test | check | bench | fuzz) purpose=$1 ;;
     *)
-        echo "usage: ${0##*/} run|test|check|bench" >&2
+        echo "usage: ${0##*/} run|test|check|bench|fuzz" >&2
         exit 2
         ;;
 esac
@@ -30,10 +31,15 @@ if [ "$purpose" = test ]; then
 elif [ "$purpose" = check ]; then
     packages+=(
         clang clang-format clang-tidy # the other compiler, form and style
-        libgtest-dev libgmock-dev libbenchmark-dev
+        libgtest-dev libgmock-dev libbenchmark-dev libzxing-dev
     )
 elif [ "$purpose" = bench ]; then
     packages+=(libbenchmark-dev)
+elif [ "$purpose" = fuzz ]; then
+    packages+=(
+        clang libclang-rt-dev llvm # compiler, sanitizers and libFuzzer, coverage
+        libzxing-dev               # reader of the printed bars
+    )
 elif [ -n "${WAYLAND_DISPLAY:-}" ] && [ -z "${DISPLAY:-}" ]; then
     packages+=(qt6-wayland) # a desktop without X11
 fi
