@@ -3,6 +3,12 @@
 #include "channel/FontesMargem.h"
 #include "channel/Pacotes.h"
 #include "channel/Transporte.h"
+#include "labels/Acessorio.h"
+#include "labels/Cabecalho.h"
+#include "labels/Corrugado.h"
+#include "labels/Frente100x40.h"
+#include "labels/FrenteCaixa.h"
+#include "labels/Oculta.h"
 #include "margins/Margens.h"
 #include "orders/GradeAcessorio.h"
 #include "orders/GradeCorrugado.h"
@@ -37,6 +43,11 @@ static void setField(Stage& stage, Words words) {
     const std::size_t space = words.find(' ');
     stage.field(words.substr(0, space)).change(words.substr(space + 1));
     stage.changes(); // which the step tells by itself
+}
+
+static void setText(Stage& stage, Words words) {
+    stage.texts[words.substr(0, words.find(' '))] = quoted(words);
+    stage.changes();
 }
 
 // The file is lost as soon as another one has been written.
@@ -80,6 +91,38 @@ static void tellMargins(Stage& stage, const MargensDeEtiqueta& margins) {
         stage.machine.tell("column", utf8(column));
     }
     stage.machine.tell("top", inQuotes(margins.superior));
+}
+
+static std::int16_t numberOf(const Text& text) {
+    return static_cast<std::int16_t>(std::stoi(utf8(text)));
+}
+
+// Labels drawn with the texts of the journey, under the names that their parameters have.
+static void drawHidden(FrmPadrao& form, Texts& t) {
+    Imprime_Oculta_40_20_2(form, t["flag"], t["descricao"], t["ref3"], t["master"], t["barra"],
+                           t["numero"], numberOf(t["quantidade"]), t["cor"]);
+}
+static void drawAccessory(FrmPadrao& form, Texts& t) {
+    Imprime_Acessorio_40_20_2(form, t["flag"], t["descricao_cor"], t["ref3"], t["codigo"],
+                              t["barra"], t["pares"], t["preco"], numberOf(t["quantidade"]),
+                              t["bandeira"], t["semana"], t["promocao"]);
+}
+static void drawCarton(FrmPadrao& form, Texts& t) {
+    EtiPack(form, t["flag"], t["destino"], t["pedido"], t["codigo"], t["fornecedor"],
+            t["descricao"], t["cor"], t["barra"], t["grade1"], t["grade2"], t["totgrade"],
+            numberOf(t["de"]), numberOf(t["ate"]), t["semana"]);
+}
+static void drawBoxFront(FrmPadrao& form, Texts& t) {
+    Imprime_40_45_2(form, t["flag"], t["descricao"], t["cor"], t["ref3"], t["master"], t["barra"],
+                    t["numero"], t["preco"], numberOf(t["quantidade"]), t["promocao"], t["semana"],
+                    t["bandeira"]);
+}
+static void drawWideBoxFront(FrmPadrao& form, Texts& t) {
+    Eti100_40_1(form, t["flag"], t["descricao"], t["ref3"], t["codigo"], t["barra"], t["numero"],
+                t["preco"], numberOf(t["quantidade"]));
+}
+static auto drawing(void (*draw)(FrmPadrao&, Texts&)) {
+    return [draw](Stage& stage, Words) { draw(stage.form, stage.texts); };
 }
 
 // Steps that run a routine, with what stands after its name.
@@ -167,6 +210,15 @@ static const Steps steps{
     {"margem_enter", [](Stage& stage, Words) { margem_enter(stage.form.FrmMargensCxZPL45.txtmargem1); }},
     {"margem_key", [](Stage& stage, Words keys) { pressKeys(stage, keys, margem_key); }},
 
+    // The labels
+    {"text", setText}, {"photograph", [](Stage& stage, Words) { stage.takePhotograph(); }},
+    {"millimetres", [](Stage& stage, Words) { stage.machine.printers.ScaleMode(ScaleMode::millimetres); }},
+    {"sizes in quarter points", [](Stage& stage, Words) { stage.machine.printers.size_step = 0.25F; }},
+    {"Imprime_Oculta_40_20_2", drawing(drawHidden)}, {"EtiPack", drawing(drawCarton)},
+    {"Imprime_Acessorio_40_20_2", drawing(drawAccessory)}, {"Eti100_40_1", drawing(drawWideBoxFront)},
+    {"Imprime_40_45_2", drawing(drawBoxFront)},
+    {"Imprime_CabecAlho", [](Stage& stage, Words kind) { Imprime_CabecAlho(stage.form, utf16(kind)); }},
+
     // The channel
     {"FrmMargensOcultaZPL", opening(FrmMargensOcultaZPL)},
     {"FrmMargensOculta7ZPL", opening(FrmMargensOculta7ZPL)},
@@ -195,7 +247,7 @@ struct JourneyFile {
 
 static std::vector<JourneyFile> journeyFiles() {
     std::vector<JourneyFile> files;
-    for (const char* const room : {"channel", "margins", "orders", "workbench"}) {
+    for (const char* const room : {"channel", "labels", "margins", "orders", "workbench"}) {
         for (const auto& file :
              std::filesystem::directory_iterator(ETIQUETAS_JOURNEYS "/" + std::string(room))) {
             if (file.path().extension() == ".txt") {

@@ -10,6 +10,8 @@
 
 namespace etiquetas::test {
 
+using Texts = std::map<std::string, Text>;
+
 /// The window on its machine, and what has become of both since they were looked at last.
 class Stage : public Workbench {
   public:
@@ -19,6 +21,9 @@ class Stage : public Workbench {
         add("FrmMargensPackZPL.", fieldsOf(form.FrmMargensPackZPL));
         add("FrmParametroImpressora.", fieldsOf(form.FrmParametroImpressora));
     }
+
+    /// The texts that a label is drawn with.
+    Texts texts;
 
     /// The dialog of the printer languages that is open, if any.
     std::unique_ptr<MargensLinguagem> dialog;
@@ -50,6 +55,12 @@ class Stage : public Workbench {
             }
         }
         tellFiles(told);
+        for (const auto& [name, text] : texts) {
+            if (texts_before_[name] != text) {
+                told.push_back("text " + name + " " + inQuotes(text));
+            }
+        }
+        texts_before_ = texts;
         for (const NamedField& field : fields_) {
             const std::string words = field.words();
             if (std::exchange(fields_before_[field.name], words) != words) {
@@ -84,6 +95,7 @@ class Stage : public Workbench {
     }
 
     NamedFields fields_ = fieldsOf(form);
+    Texts texts_before_;
     std::map<std::string, std::string> fields_before_;
     std::map<Text, std::string, std::less<>> files_before_;
 };
@@ -142,7 +154,7 @@ class Journey {
         named_ = words.substr(std::min(words.size(), step->first.size() + 1));
         const std::string failure = failureTextOf([&] { step->second(*stage_, named_); });
         if (!failure.empty()) {
-            told_.push_back("fails: " + failure);
+            stage_->machine.tell("fails:", failure);
         }
     }
 

@@ -65,10 +65,11 @@ std::string wordsOf(const Label& label) {
     return inQuotes(label.caption) + (label.visible ? "" : " hidden");
 }
 
-/// What stands between the first and the last quote.
+/// What stands between the first and the last quote, with line ends for their names.
 inline Text quoted(const std::string& words) {
     const std::size_t start = words.find('"') + 1;
-    return utf16(words.substr(start, words.rfind('"') - start));
+    const Text text = utf16(words.substr(start, words.rfind('"') - start));
+    return replaceAll(replaceAll(text, u"<CR>", u"\r"), u"<LF>", u"\n");
 }
 
 /// A field, or what else the window has, under the name that journeys call it by.
@@ -88,7 +89,9 @@ struct NamedField {
     template <typename Field>
     static void changeField(Field& field, const std::string& to) {
         const auto ends_with = [&](const char* word) { return to.ends_with(word); };
-        if constexpr (std::is_same_v<Field, bool>) {
+        if constexpr (std::is_same_v<Field, Text>) {
+            field = quoted(to);
+        } else if constexpr (std::is_same_v<Field, bool>) {
             field = to == "yes";
         } else if constexpr (std::is_arithmetic_v<Field>) {
             std::istringstream(to) >> field;
