@@ -108,7 +108,7 @@ using Steps = std::map<std::string, std::function<void(Stage&, const std::string
 /// first heading, "== ", begin each of the scenes; a scene has a stage of its own.
 class Journey {
   public:
-    explicit Journey(const Steps& steps) : steps_(steps) {}
+    explicit Journey(Steps steps) : steps_(std::move(steps)) {}
 
     Log play(const std::string& path) {
         for (const GoldenLine& line : goldenLines(path)) {
@@ -140,7 +140,7 @@ class Journey {
     void take(const std::string& line) {
         const std::string words = line.substr(std::min<std::size_t>(2, line.size()));
         if (line.starts_with('|')) {
-            stage_->file(named_) += toCodePage1252(utf16(words)) + "\r\n";
+            stage_->file(named_) += toCodePage1252(withLineEnds(utf16(words))) + "\r\n";
             stage_->changes();
             return;
         }
@@ -158,7 +158,7 @@ class Journey {
         }
     }
 
-    const Steps& steps_;
+    Steps steps_;
     Log told_, beginning_;
     std::unique_ptr<Stage> stage_;
     std::string named_;

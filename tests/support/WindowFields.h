@@ -65,11 +65,15 @@ std::string wordsOf(const Label& label) {
     return inQuotes(label.caption) + (label.visible ? "" : " hidden");
 }
 
-/// What stands between the first and the last quote, with line ends for their names.
+/// A text of a journey, in which line ends stand by their names.
+inline Text withLineEnds(const Text& text) {
+    return replaceAll(replaceAll(text, u"<CR>", u"\r"), u"<LF>", u"\n");
+}
+
+/// What stands between the first and the last quote.
 inline Text quoted(const std::string& words) {
     const std::size_t start = words.find('"') + 1;
-    const Text text = utf16(words.substr(start, words.rfind('"') - start));
-    return replaceAll(replaceAll(text, u"<CR>", u"\r"), u"<LF>", u"\n");
+    return withLineEnds(utf16(words.substr(start, words.rfind('"') - start)));
 }
 
 /// A field, or what else the window has, under the name that journeys call it by.
@@ -89,7 +93,9 @@ struct NamedField {
     template <typename Field>
     static void changeField(Field& field, const std::string& to) {
         const auto ends_with = [&](const char* word) { return to.ends_with(word); };
-        if constexpr (std::is_same_v<Field, Text>) {
+        if constexpr (std::is_const_v<Field>) {
+            throw std::logic_error("a field to look at only");
+        } else if constexpr (std::is_same_v<Field, Text>) {
             field = quoted(to);
         } else if constexpr (std::is_same_v<Field, bool>) {
             field = to == "yes";
@@ -116,7 +122,9 @@ using NamedFields = std::vector<NamedField>;
 
 // clang-format off
 /// All that the system reads or changes in the window and in its dialogs.
-inline NamedFields fieldsOf(FrmPadrao& f) {
+template <typename Form>
+    requires std::same_as<std::remove_const_t<Form>, FrmPadrao>
+NamedFields fieldsOf(Form& f) {
     NamedFields fields{
         {"Width", f.Width}, {"Height", f.Height}, {"KeyPreview", f.KeyPreview},
         {"cmbtipo", f.cmbtipo}, {"txtarquivo", f.txtarquivo}, {"filelist", f.filelist},
