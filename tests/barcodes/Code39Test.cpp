@@ -1,8 +1,6 @@
 #include "barcodes/Code39.h"
 
 #include "barcodes/SymbolPicture.h"
-#include "support/Failures.h"
-#include "support/Golden.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +11,7 @@ class Code39Test : public testing::Test {
     /// Draws a text without its letters, and tells its symbol and how it comes back.
     void draw(Text text, bool with_check_character) {
         DesenhaCode39(picture, 1, text, with_check_character, false);
-        EXPECT_TRUE(letters.texts.empty());
+        EXPECT_EQ(symbols.log, Log()) << "letters";
         tellSymbol(text, with_check_character);
     }
 
@@ -23,9 +21,9 @@ class Code39Test : public testing::Test {
         addRows(symbols, picture.Picture());
     }
 
-    BoxLetters letters;
-    PictureBox picture{letters};
     Journal symbols;
+    FakeFiles letters{symbols};
+    PictureBox picture{letters};
 };
 
 TEST_F(Code39Test, DrawsTheSymbolOfATextBetweenStartAndStop) {
@@ -38,7 +36,7 @@ TEST_F(Code39Test, DrawsTheSymbolOfATextBetweenStartAndStop) {
     Text text = u"abc*1";
     DesenhaCode39(picture, 2, text, true, true);
     tellSymbol(text, true);
-    EXPECT_EQ(letters.texts.back(), u"ABC1");
+    EXPECT_EQ(symbols.log.back(), "letters ABC1");
     EXPECT_TRUE(matchesGolden(symbols.transcript, "code39_symbols"));
 }
 

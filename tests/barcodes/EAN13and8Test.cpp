@@ -1,8 +1,6 @@
 #include "barcodes/EAN13and8.h"
 
 #include "barcodes/SymbolPicture.h"
-#include "support/Failures.h"
-#include "support/Golden.h"
 
 #include <gtest/gtest.h>
 
@@ -16,9 +14,9 @@ class Ean13Test : public testing::Test {
         addRows(symbols, picture.Picture());
     }
 
-    BoxLetters letters;
-    PictureBox picture{letters};
     Journal symbols;
+    FakeFiles letters{symbols};
+    PictureBox picture{letters};
 };
 
 TEST_F(Ean13Test, DrawsSymbolsOfTwelveDigitsInTensOfPixels) {
@@ -28,9 +26,9 @@ TEST_F(Ean13Test, DrawsSymbolsOfTwelveDigitsInTensOfPixels) {
         draw(digits, 1, false);
     }
     draw(u"204455667788", 2, false);
-    EXPECT_TRUE(letters.texts.empty());
+    EXPECT_EQ(symbols.log, Log()) << "letters";
     draw(u"204455667788", 2, true);
-    EXPECT_EQ(letters.texts, (std::vector<Text>{u"044556", u"677888"}));
+    EXPECT_EQ(symbols.log, (Log{"letters 044556", "letters 677888"}));
     EXPECT_TRUE(matchesGolden(symbols.transcript, "ean13_symbols"));
 }
 

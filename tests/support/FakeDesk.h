@@ -27,9 +27,11 @@ struct FakeDesk : MessageBoxes, Focus, Pointer, Process, FolderPicker, CommandSt
         constexpr std::array symbols{"none", "stop", "question", "exclamation"};
         const std::string symbol = symbols.at(static_cast<std::size_t>(message.symbol));
         const bool is_question = message.buttons == Buttons::yes_no;
-        journal.note("message", symbol, is_question ? "yes/no" : "ok",
-                     "[" + utf8(message.title) + "]", utf8(message.text));
-        journal.tell("message", symbol, is_question ? "yes/no" : "ok", inQuotes(message.text));
+        journal.noteAside("message", symbol, is_question ? "yes/no" : "ok",
+                          "[" + utf8(message.title) + "]", utf8(message.text));
+        const std::string title = message.title.empty() ? "" : " under " + inQuotes(message.title);
+        journal.tell("message", symbol, is_question ? "yes/no" : "ok",
+                     inQuotes(message.text) + title);
         return answer;
     }
     void tabForward() override { journal.note("focus forward"); }

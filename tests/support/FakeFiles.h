@@ -51,7 +51,7 @@ struct FakeFiles final : Files, Pictures, Fake {
         return read(path).starts_with("JPEG") ? std::make_shared<const Raster>() : throw refusal();
     }
     Raster text(TextView text) override {
-        journal.note("letters", utf8(text));
+        journal.noteAside("letters", utf8(text));
         const std::size_t width = 6 * text.size();
         constexpr std::size_t height = 10;
         return {static_cast<int>(width), height, std::vector<Pixel>(width * height, black_pixel)};

@@ -75,7 +75,7 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
     /// so that a text that is measured in the wrong one shows.
     float TextWidth(TextView text) const override {
         constexpr float pixels_per_millimetre = 24;
-        journal.note("measure", face, points);
+        journal.noteAside("measure", face, points);
         return static_cast<float>(text.size()) * points * faceWidth() / 7.0F *
                (unit == "pixels" ? pixels_per_millimetre : 1.0F);
     }
@@ -99,7 +99,7 @@ struct FakePrinters final : Printers, PrintSurface, Fake {
                      measure(height) + crop + text);
     }
     void NewPage() override {
-        journal.note("page");
+        journal.noteAside("page");
         journal.tell("page");
     }
     void EndDoc() override { journal.tellStep("end", "end of job"); }

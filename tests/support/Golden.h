@@ -28,10 +28,9 @@ inline std::vector<GoldenLine> goldenLines(const std::string& path) {
     return lines;
 }
 
-/// Whether lines are those of the golden file of this name; tells the first one that is not.
-inline testing::AssertionResult matchesGolden(const std::vector<std::string>& lines,
-                                              const std::string& name) {
-    const std::string path = ETIQUETAS_GOLDENS "/" + name + ".txt";
+/// Whether lines are those of the golden file at this path; tells the first one that is not.
+inline testing::AssertionResult matchesFile(const std::vector<std::string>& lines,
+                                            const std::string& path) {
     const std::vector<GoldenLine> golden = goldenLines(path);
     if (golden.empty()) {
         return testing::AssertionFailure() << path << " is missing or empty";
@@ -46,6 +45,12 @@ inline testing::AssertionResult matchesGolden(const std::vector<std::string>& li
     }
     return line == lines.end() ? testing::AssertionSuccess()
                                : testing::AssertionFailure() << path << " ends before " << *line;
+}
+
+/// Whether lines are those of the golden file of this name.
+inline testing::AssertionResult matchesGolden(const std::vector<std::string>& lines,
+                                              const std::string& name) {
+    return matchesFile(lines, ETIQUETAS_GOLDENS "/" + name + ".txt");
 }
 
 } // namespace etiquetas::test

@@ -15,6 +15,10 @@ inline std::string utf8(TextView text) {
     return std::filesystem::path(text).string();
 }
 
+inline Text utf16(const std::string& text) {
+    return std::filesystem::path(text).u16string();
+}
+
 /// A text as the transcript has it.
 inline std::string inQuotes(TextView text) {
     return '"' + utf8(text) + '"';
@@ -35,18 +39,29 @@ struct Journal {
     /// What came to the printers and to the operator, in the words of the golden files.
     Log transcript;
 
+    /// All that a reader of a journey wants to know: the transcript, and the log's other steps.
+    Log story;
+
     /// Refuses a step of this word, if it is a failing one.
     void attempt(const std::string& word) const {
         if (failing.contains(word)) {
             throw refusal();
         }
     }
-    /// Logs a step, or refuses it.
-    void note(const std::string& word, const auto&... parts) {
+    /// Logs a step that the story leaves out, or refuses it.
+    void noteAside(const std::string& word, const auto&... parts) {
         attempt(word);
         log.push_back(lineOfWords(word, parts...));
     }
-    void tell(const auto&... parts) { transcript.push_back(lineOfWords(parts...)); }
+    /// Logs a step, or refuses it.
+    void note(const std::string& word, const auto&... parts) {
+        noteAside(word, parts...);
+        story.push_back(log.back());
+    }
+    void tell(const auto&... parts) {
+        transcript.push_back(lineOfWords(parts...));
+        story.push_back(transcript.back());
+    }
     /// Adds a line to the transcript for a step of this word, or refuses the step.
     void tellStep(const std::string& word, const auto&... parts) {
         attempt(word);
@@ -74,6 +89,7 @@ struct Journal {
     void forget() {
         log.clear();
         transcript.clear();
+        story.clear();
     }
 
   private:

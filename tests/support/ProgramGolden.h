@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/CodePage.h"
-#include "support/Golden.h"
 #include "support/Journal.h"
 
 namespace etiquetas::test {
@@ -31,11 +30,6 @@ inline Log programLines(std::string job) {
         lines.push_back(readable(job) + "<no line end>");
     }
     return lines;
-}
-
-/// Whether a job file holds the program of the golden file of this name.
-inline testing::AssertionResult holdsProgram(const std::string& job, const std::string& name) {
-    return matchesGolden(programLines(job), name);
 }
 
 } // namespace etiquetas::test
