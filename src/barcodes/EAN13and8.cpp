@@ -58,7 +58,10 @@ std::size_t checkDigit(TextView digits) {
 // of the twelve digits has no modules of its own: the sets of the left half tell it.
 Text modulesOf(TextView digits) {
     const TextView sets = parities[digitAt(digits, 1)];
-    Text modules(outer_guard);
+    constexpr std::size_t module_count = 95;
+    Text modules;
+    modules.reserve(module_count);
+    modules.append(outer_guard);
     for (std::size_t i = 2; i <= last_left_digit; ++i) {
         const bool even = sets[i - 2] == u'E';
         modules.append((even ? set_g : set_l)[digitAt(digits, i)]);
@@ -85,7 +88,7 @@ void drawBars(PictureBox& pic, TextView modules, int bar_height) {
     drawModules(pic, modules, first_module_x, 0, bar_height);
     for (const Guard& guard : guards) {
         drawModules(pic, modules.substr(guard.first, guard.count),
-                    first_module_x + static_cast<int>(guard.first), 0, bar_height + longer_guard);
+                    first_module_x + static_cast<int>(guard.first), bar_height, longer_guard);
     }
 }
 

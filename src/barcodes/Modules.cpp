@@ -2,6 +2,9 @@
 
 #include "base/Numbers.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace etiquetas {
 
 int barHeight(std::int16_t escala) {
@@ -16,10 +19,10 @@ void beginSymbol(PictureBox& pic) {
 }
 
 void drawModules(PictureBox& pic, TextView modules, int x, int top, int height) {
-    for (const char16_t module : modules) {
-        pic.Line(x, top, x, top + height, module == u'1' ? black_pixel : white_pixel);
-        ++x;
-    }
+    std::vector<Pixel> colours(modules.size());
+    std::transform(modules.begin(), modules.end(), colours.begin(),
+                   [](char16_t module) { return module == u'1' ? black_pixel : white_pixel; });
+    pic.Columns(x, top, height, colours);
 }
 
 void printAt(PictureBox& pic, double x, double y, TextView text) {
@@ -29,7 +32,7 @@ void printAt(PictureBox& pic, double x, double y, TextView text) {
 }
 
 void endSymbol(PictureBox& pic) {
-    pic.Picture(pic.Image());
+    pic.showDrawing();
 }
 
 } // namespace etiquetas

@@ -17,15 +17,18 @@ namespace etiquetas {
 Desktop::Desktop(const QString& folder)
     : log_(startedLog(folder)),
       skipped_([this](const Failure& failure) { logSkipped(log_, failure); }), files_(folder),
-      surface_(printers_, folder), form_({printers_, surface_, logged_messages_, pictures_, files_,
-                                          focus_, pointer_, process_, folders_, commands_}),
+      surface_(printers_, folder),
+      form_({printers_, surface_, logged_messages_, pictures_, folder_memory_, focus_, pointer_,
+             process_, folders_, commands_}),
       bridge_(focus_, [this](const QString& description) { endOnFailure(description); }) {
     keepLog();
     for (const QString& draft : removeLeftDrafts(folder)) {
         logDraftRemoved(log_, draft);
     }
     bridgeWindows();
-    messages_.standOver([this] { return windowUnderBoxes(); }, [this] { bridge_.pushAll(); });
+    bridge_.onHappening([this] { folder_memory_.forget(); });
+    messages_.standOver([this] { return windowUnderBoxes(); }, [this] { bridge_.pushAll(); },
+                        [this] { folder_memory_.forget(); });
     process_.onEnd([this] { end(0); });
     window_.onClose([this] { return close(); });
     window_.onResize([this] { bridge_.run([this] { FrmPadrao_resize(form_); }); });

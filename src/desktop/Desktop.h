@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "desktop/LoggedMessageBoxes.h"
+#include "desktop/machine/FolderMemory.h"
 #include "desktop/machine/Log.h"
 #include "desktop/machine/QtCommandStart.h"
 #include "desktop/machine/QtFiles.h"
@@ -55,6 +56,7 @@ class Desktop {
     Log log_;
     SkipObserver skipped_;
     QtFiles files_;
+    FolderMemory folder_memory_{files_};
     QtPictures pictures_;
     QtPrinters printers_;
     QtPrintSurface surface_;

@@ -18,11 +18,18 @@ int pixelsOf(double twips) {
 
 void PictureBox::Picture(etiquetas::Picture picture) {
     picture_ = std::move(picture);
-    std::fill(drawn_.pixels.begin(), drawn_.pixels.end(), back_colour_);
+    erase();
 }
 
 Picture PictureBox::Image() const {
-    return std::make_shared<const Raster>(drawn_);
+    PictureBox copy(*this);
+    return std::make_shared<const Raster>(std::move(copy.canvas()));
+}
+
+void PictureBox::showDrawing() {
+    canvas();
+    picture_ = std::make_shared<const Raster>(
+        Raster{drawn_.width, drawn_.height, std::exchange(drawn_.pixels, {})});
 }
 
 void PictureBox::Width(double twips) {
@@ -37,7 +44,7 @@ void PictureBox::Height(double twips) {
 
 void PictureBox::BackColor(Pixel colour) {
     back_colour_ = colour;
-    std::fill(drawn_.pixels.begin(), drawn_.pixels.end(), colour);
+    erase();
 }
 
 void PictureBox::ScaleMode(etiquetas::ScaleMode mode) {
@@ -56,6 +63,26 @@ void PictureBox::Line(int x1, int y1, int x2, int y2, Pixel colour) {
     }
     for (; x1 != x2 || y1 != y2; x1 += step_x, y1 += step_y) {
         plot(x1, y1, colour);
+    }
+}
+
+void PictureBox::Columns(int x, int top, int height, std::span<const Pixel> colours) {
+    if (!keeps_drawing_) {
+        return;
+    }
+    Raster& raster = canvas();
+    const int count = static_cast<int>(colours.size());
+    const int left = std::max(x, 0);
+    const int right = std::min(x + count, raster.width);
+    const int first = std::max(height < 0 ? top + height + 1 : top, 0);
+    const int end = std::min(height < 0 ? top + 1 : top + height, raster.height);
+    if (left >= right) {
+        return;
+    }
+    const auto row =
+        colours.subspan(static_cast<std::size_t>(left - x), static_cast<std::size_t>(right - left));
+    for (int y = first; y < end; ++y) {
+        std::copy(row.begin(), row.end(), raster.pixels.begin() + y * raster.width + left);
     }
 }
 
@@ -84,15 +111,27 @@ void PictureBox::resize() {
     // What was drawn is gone: every drawing sets its size first.
     drawn_.width = pixelsOf(width_);
     drawn_.height = pixelsOf(height_);
-    drawn_.pixels.assign(static_cast<std::size_t>(drawn_.width) *
-                             static_cast<std::size_t>(drawn_.height),
-                         back_colour_);
+    erase();
+}
+
+void PictureBox::erase() {
+    drawn_.pixels.clear();
+}
+
+// The raster to draw in: empty, in the background's colour, before the first line.
+Raster& PictureBox::canvas() {
+    if (drawn_.pixels.empty()) {
+        drawn_.pixels.assign(static_cast<std::size_t>(drawn_.width) *
+                                 static_cast<std::size_t>(drawn_.height),
+                             back_colour_);
+    }
+    return drawn_;
 }
 
 void PictureBox::plot(int x, int y, Pixel colour) {
     if (keeps_drawing_ && x >= 0 && y >= 0 && x < drawn_.width && y < drawn_.height) {
-        drawn_.pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(drawn_.width) +
-                      static_cast<std::size_t>(x)] = colour;
+        canvas().pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(drawn_.width) +
+                        static_cast<std::size_t>(x)] = colour;
     }
 }
 

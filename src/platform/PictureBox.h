@@ -5,6 +5,8 @@
 #include "platform/Pictures.h"
 #include "platform/ScaleMode.h"
 
+#include <span>
+
 namespace etiquetas {
 
 /// Off-screen raster in which bars are drawn before they are stamped on a label. One pixel is 15
@@ -24,6 +26,8 @@ class PictureBox {
     [[nodiscard]] const etiquetas::Picture& Picture() const { return picture_; }
     /// What has been drawn, as a picture.
     [[nodiscard]] etiquetas::Picture Image() const;
+    /// Shows what has been drawn: what `Picture(Image())` does, without a second raster.
+    void showDrawing();
 
     /// Size in twips; the raster has the nearest whole number of pixels.
     void Width(double twips);
@@ -41,6 +45,9 @@ class PictureBox {
 
     /// A line one pixel wide; the pixel at its end is not drawn. Level and upright lines only.
     void Line(int x1, int y1, int x2, int y2, Pixel colour);
+    /// Upright lines side by side, each one pixel wide, from row `top` down over `height` rows: the
+    /// first of these colours in column `x`. A height below 0 draws upwards, row `top` included.
+    void Columns(int x, int top, int height, std::span<const Pixel> colours);
     /// The text with its top-left corner at (`CurrentX`, `CurrentY`).
     void Print(TextView text);
     /// Size of a text in pixels.
@@ -49,11 +56,13 @@ class PictureBox {
 
   private:
     void resize();
+    void erase();
+    Raster& canvas();
     void plot(int x, int y, Pixel colour);
 
     Pictures* pictures_;
     etiquetas::Picture picture_;
-    Raster drawn_;
+    Raster drawn_; // without pixels as long as nothing is drawn
     double width_ = 0;
     double height_ = 0;
     double x_ = 0;

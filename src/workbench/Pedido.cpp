@@ -84,16 +84,24 @@ std::optional<std::string> bytesOf(FrmPadrao& form, TextView path) {
     }
 }
 
-// The order's file as text; empty, and reported, where there is nothing to read. The upper-case
-// name finds the file whatever the case of its own name.
+// The path of a listed file. Its name is told in upper case, which another file may have as it
+// stands: that one is taken then.
+Text pathOf(const FrmPadrao& form, TextView name) {
+    const auto& listed = form.filelist.entries;
+    const bool upper_is_listed =
+        std::find(listed.begin(), listed.end(), upperCase(name)) != listed.end();
+    return joined(form.platform.files, form.lblpath.caption,
+                  upper_is_listed ? upperCase(name) : Text(name));
+}
+
+// The order's file as text; empty, and reported, where there is nothing to read.
 Text readOrder(FrmPadrao& form, TextView name) {
-    const Files& files = form.platform.files;
-    const auto path = findFile(files, form.lblpath.caption, upperCase(name));
-    if (!path) {
+    const Text path = pathOf(form, name);
+    if (!form.platform.files.fileExists(path)) {
         warn(form, u"O arquivo não existe!");
         return {};
     }
-    const auto bytes = bytesOf(form, *path);
+    const auto bytes = bytesOf(form, path);
     if (bytes && bytes->empty()) {
         warn(form, u"O arquivo está em branco!");
     }

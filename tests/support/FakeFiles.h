@@ -12,7 +12,7 @@ namespace etiquetas::test {
 
 /// Files in memory, with names that are exact in their case, and the pictures in them: a file that
 /// begins with "JPEG" is one. Letters are black boxes of 6 by 10 pixels.
-struct FakeFiles final : Files, Pictures, Fake {
+struct FakeFiles : Files, Pictures, Fake {
     using Fake::Fake;
 
     std::map<Text, std::string, std::less<>> bytes;

@@ -82,11 +82,13 @@ bool QtFiles::folderExists(TextView path) const {
 }
 
 std::vector<Text> QtFiles::filesIn(TextView folder) const {
-    std::vector<Text> names;
-    if (folderExists(folder)) {
-        const QStringList found = QDir(toQString(folder)).entryList(QDir::Files, QDir::Unsorted);
-        std::transform(found.begin(), found.end(), std::back_inserter(names), toText);
+    if (isBlank(folder)) {
+        return {}; // it would stand for the folder that the program was started in
     }
+    const QStringList found = QDir(toQString(folder)).entryList(QDir::Files, QDir::Unsorted);
+    std::vector<Text> names;
+    names.reserve(static_cast<std::size_t>(found.size()));
+    std::transform(found.begin(), found.end(), std::back_inserter(names), toText);
     return names;
 }
 

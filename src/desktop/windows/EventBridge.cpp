@@ -103,9 +103,19 @@ EventBridge::EventBridge(QtFocus& focus, Failed failed)
     // Late, when the toolkit has finished its own change of focus: a handler may show a message
     // box.
     connect(
-        qApp, &QApplication::focusChanged, this, [this] { settleFocus(); }, Qt::QueuedConnection);
+        qApp, &QApplication::focusChanged, this, [this] { asHappening([this] { settleFocus(); }); },
+        Qt::QueuedConnection);
     afterwards_timer_.setSingleShot(true);
     connect(&afterwards_timer_, &QTimer::timeout, this, [this] { runKept(); });
+}
+
+// What one happening brings about is part of it.
+void EventBridge::asHappening(const std::function<void()>& deed) {
+    if (!happening_) {
+        happening_begun_();
+    }
+    const QScopedValueRollback<bool> guard(happening_, true);
+    deed();
 }
 
 void EventBridge::add(BridgedWindow window) {
@@ -134,7 +144,8 @@ void EventBridge::watch(FieldRow& row) {
         });
     }
     if (auto* const button = qobject_cast<QPushButton*>(row.widget)) {
-        connect(button, &QPushButton::clicked, this, [this, &row] { press(row); });
+        connect(button, &QPushButton::clicked, this,
+                [this, &row] { asHappening([&] { press(row); }); });
     }
 }
 
@@ -142,7 +153,7 @@ void EventBridge::run(const std::function<void()>& handler) {
     if (stopped_ || running_) {
         return;
     }
-    runAlone(handler);
+    asHappening([&] { runAlone(handler); });
     if (afterwards_) {
         // The event that the handler belongs to comes to its end first.
         afterwards_timer_.start();
@@ -234,7 +245,12 @@ bool EventBridge::eventFilter(QObject* watched, QEvent* event) {
     if (place.row == nullptr) {
         return false;
     }
-    return running_ ? isOfOperator(*event) : handleEvent(place, *watched, *event);
+    if (running_) {
+        return isOfOperator(*event);
+    }
+    bool taken = false;
+    asHappening([&] { taken = handleEvent(place, *watched, *event); });
+    return taken;
 }
 
 // True when the widget must not see the event any more.

@@ -47,6 +47,10 @@ class EventBridge final : public QObject {
     /// `focus` must outlive the bridge.
     EventBridge(QtFocus& focus, Failed failed);
 
+    /// What is called as each happening begins: a key or a click with all the events that it makes,
+    /// a change of focus, a handler that is run by itself.
+    void onHappening(std::function<void()> begun) { happening_begun_ = std::move(begun); }
+
     /// Takes a window over, the main window first. It must outlive the bridge.
     void add(BridgedWindow window);
 
@@ -73,6 +77,7 @@ class EventBridge final : public QObject {
         FieldRow* row = nullptr;
     };
 
+    void asHappening(const std::function<void()>& deed);
     void watch(FieldRow& row);
     void pullAll();
     void runAlone(const std::function<void()>& handler);
@@ -94,6 +99,8 @@ class EventBridge final : public QObject {
 
     QtFocus& focus_;
     Failed failed_;
+    std::function<void()> happening_begun_ = [] {};
+    bool happening_ = false;
     std::deque<BridgedWindow> windows_; // which stay where they are
     BridgedWindow* current_ = nullptr;  // the one that was active last
     FieldRow* active_ = nullptr;        // the field that has had its entering event

@@ -34,19 +34,13 @@ class HeldKeys final : public QObject {
     }
 };
 
-void ask(QMessageBox& box) {
-    HeldKeys held;
-    for (QAbstractButton* const button : box.buttons()) {
-        button->installEventFilter(&held);
-    }
-    box.exec();
-}
-
 } // namespace
 
-void QtMessageBoxes::standOver(std::function<QWidget*()> window, std::function<void()> before_box) {
+void QtMessageBoxes::standOver(std::function<QWidget*()> window, std::function<void()> before_box,
+                               std::function<void()> after_box) {
     window_ = std::move(window);
     before_box_ = std::move(before_box);
+    after_box_ = std::move(after_box);
 }
 
 Answer QtMessageBoxes::show(const Message& message) {
@@ -70,6 +64,15 @@ Answer QtMessageBoxes::show(const Message& message) {
     box.setEscapeButton(no);
     ask(box);
     return box.clickedButton() == yes ? Answer::yes : Answer::no;
+}
+
+void QtMessageBoxes::ask(QMessageBox& box) {
+    HeldKeys held;
+    for (QAbstractButton* const button : box.buttons()) {
+        button->installEventFilter(&held);
+    }
+    box.exec();
+    after_box_();
 }
 
 } // namespace etiquetas

@@ -1,8 +1,11 @@
 #include "desktop/windows/EventBridge.h"
 
 #include "SmallOrderTest.h"
+#include "desktop/windows/FieldTable.h"
 #include "desktop/windows/QtFocus.h"
+#include "desktop/windows/WorkbenchWindow.h"
 #include "support/Cases.h"
+#include "support/FakePlatform.h"
 
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
@@ -190,6 +193,32 @@ TEST_F(EventBridgeTest, endsWithOneBoxAndWithoutItsOpenJobOnAnUnguardedFailure) 
     EXPECT_TRUE(boxTexts().isEmpty());
     EXPECT_EQ(desktop->exitCode(), 1);
     EXPECT_TRUE(jobs().isEmpty());
+}
+
+TEST_F(EventBridgeTest, takesAKeyAndTheLeavingThatItCausesForOneHappening) {
+    FakePlatform machine;
+    const Platform fake = machine.platform();
+    QtFocus focus;
+    FrmPadrao form({fake.printers, fake.surface, fake.messages, fake.pictures, fake.files, focus,
+                    fake.pointer, fake.process, fake.folders, fake.commands});
+    WorkbenchWindow window;
+    EventBridge bridge(focus, [](const QString&) {});
+    bridge.add(fieldTable(form, window));
+    window.show();
+    bridge.onHappening([&machine] { machine.forget(); });
+    QTest::keyClick(window.findChild<QLineEdit*>(u"txtarquivo"_s), Qt::Key_Return);
+    EXPECT_EQ(machine.logged({"message"}).size(), 2U) << "the order is looked for twice";
+    bridge.run([] {});
+    EXPECT_EQ(machine.logged({"message"}).size(), 0U);
+}
+
+TEST_F(EventBridgeTest, findsAnOrderThatComesWhileABoxTellsThatThereIsNone) {
+    open();
+    worker.type(u"txtarquivo"_s, u"88"_s);
+    worker.beforeAnswer([&] { write(u"pedido 88 frente.txt"_s, order_file); });
+    worker.press(Qt::Key_Return); // looks once by the key and once more as the field is left
+    EXPECT_EQ(boxTexts().size(), 1);
+    EXPECT_EQ(worker.widget<QComboBox>(u"cmb_referencia"_s).count(), 2);
 }
 
 TEST_F(EventBridgeTest, tellsOfAFaultOfTheProgramAndRunsNothingMore) {
