@@ -30,11 +30,12 @@ TEST_F(InicioTest, CaptionTellsTheVersion) {
 }
 
 TEST_F(InicioTest, SettingsInUtf16AreToldBehindAllOtherSteps) {
-    machine.files.bytes = {{settings_file, "\xFF\xFE"}};
+    const Text settings = u"/programa/Varesko.ini";
+    machine.files.bytes = {{settings, "\xFF\xFE"}};
     FrmPadrao_load(form);
     EXPECT_EQ(machine.log[machine.log.size() - 2], "pointer normal");
     EXPECT_TRUE(machine.log.back().starts_with("message exclamation ok [ATENÇÃO!!!] O arquivo"));
-    EXPECT_NE(machine.log.back().find(utf8(settings_file)), std::string::npos);
+    EXPECT_NE(machine.log.back().find(utf8(settings)), std::string::npos);
 }
 
 } // namespace etiquetas::test
