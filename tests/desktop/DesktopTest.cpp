@@ -64,7 +64,7 @@ TEST_F(DesktopTest, logsFailuresThatItPassesOverAndTheOneThatEndsIt) {
 TEST_F(DesktopTest, removesOldDraftsAndNothingElseAtItsStart) {
     struct Left {
         QString name;
-        int minutes;
+        qint64 minutes;
         bool stays;
     };
     ASSERT_TRUE(QDir(folder.path()).mkdir(u"impressos"_s));

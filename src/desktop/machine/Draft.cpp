@@ -95,7 +95,7 @@ bool forceToDisk([[maybe_unused]] const QFile& file) {
 QStringList removeOldDrafts(const QDir& folder, QStringView names) {
     // A running program finishes a draft within seconds; an hour is more than a job takes, and than
     // the clocks of the machines on one network differ.
-    constexpr qint64 hour = 60 * 60; // seconds
+    constexpr qint64 hour = qint64{60} * 60; // seconds
     const QDateTime old = QDateTime::currentDateTime().addSecs(-hour);
     QStringList removed;
     for (const QFileInfo& draft :

@@ -26,7 +26,7 @@ namespace etiquetas {
 
 namespace {
 
-constexpr std::int64_t megabyte = 1024 * 1024;
+constexpr std::int64_t megabyte = std::int64_t{1024} * 1024;
 
 // The largest pictures of cameras stay below these. What is left to do with so many pixels when the
 // time is over takes a moment.
