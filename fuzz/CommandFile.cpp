@@ -41,12 +41,19 @@ void checkJob(TextView port, TextView share) {
         machine.bytes.clear();
         sendProgram(form, {u"^XA", u"^XZ"}, CommandFileEnd::extra_line_feed);
         requireEqual(machine.bytes[u"/programa/epltemp.prn"], "^XA\r\n^XZ\r\n", "The job");
-        const auto read =
-            readCommandFile(fromCodePage1252(machine.bytes[u"/programa/IMPRIMIR.BAT"]));
-        const std::optional<Text> used_share =
-            road == u"USB" ? std::optional(Text(trimmed(share))) : std::nullopt;
+        const Text written = fromCodePage1252(machine.bytes[u"/programa/IMPRIMIR.BAT"]);
+        const bool is_shared = road == u"USB";
+        const Text used_share(trimmed(share));
+        const Text mapping = u"net use " + Text(port) + u": /delete\r\nnet use " + Text(port) +
+                             u": \\\\127.0.0.1\\" + used_share + u" /yes\r\n";
+        requireEqual(written,
+                     (is_shared ? mapping : Text()) + u"type epltemp.prn > " + Text(port) +
+                         u"\n\r\n",
+                     "The command file");
         if (!port.empty() && isPlain(port) && isPlain(share)) {
-            require(read == portCommands(port, used_share), "The commands are those of the port");
+            require(readCommandFile(written) ==
+                        portCommands(port, is_shared ? std::optional(used_share) : std::nullopt),
+                    "The commands are those of the port");
         }
     }
 }

@@ -215,13 +215,16 @@ class Machine final : public Files,
     SkipObserver observer_{[this](const Failure& /*failure*/) { ++passed_over; }};
 };
 
-/// A machine in a shop that has been at work: logos, settings of its own and an order of each
+/// A machine in a shop that has been at work: logos, calibrated margins and an order of each
 /// family, all with the same bytes.
 inline void furnish(Machine& machine, std::string_view order) {
     machine.bytes[u"/programa/brisako.jpg"] = "JPEG";
     machine.bytes[u"/programa/lumira.jpg"] = "JPEG";
     machine.bytes[u"/programa/imagens/3104527.jpg"] = "JPEG";
-    machine.bytes[settings_path] = "[Config]\r\narquivo=77\r\n";
+    machine.bytes[settings_path] =
+        "[Config]\r\narquivo=77\r\n[MargemOcultaZebra]\r\nMargem_oculta1=3\r\nMargem_oculta11="
+        "45\r\n"
+        "Margem_oculta2=3\r\nMx4045_1=0\r\nMx4045_2=40\r\nMx4045=3\r\nPackX=3\r\nPackY=3\r\n";
     for (const TextView word : {u"FRENTE", u"CORRUGADO", u"ACESSORIO"}) {
         machine.bytes[Text(u"/programa/77 ").append(word).append(u".txt")] = order;
     }

@@ -41,7 +41,8 @@ std::optional<std::int32_t> expectedPages(const FrmPadrao& form, TextView kind) 
         }
     }
     if (kind == tipo::oculta) {
-        return pairs; // two labels for each pair, two on each strip
+        // Two labels for each pair, two on each strip, and the header strip.
+        return pairs + (form.Frame2.visible ? 1 : 0);
     }
     if (kind == tipo::acessorio) {
         return std::max(0, toInteger16(form.TXTPARES.text) / 2);
