@@ -29,7 +29,7 @@ namespace etiquetas::test {
 
 using Words = const std::string&;
 
-static std::vector<std::string> wordsOf(Words text) {
+static std::vector<std::string> wordsIn(Words text) {
     std::istringstream words(text);
     return {std::istream_iterator<std::string>(words), {}};
 }
@@ -72,7 +72,7 @@ static const NamedKey named_keys[] = {{"Enter", key::enter},       {"Backspace",
                                       {"Down", key::arrow_down},   {"nothing", key::none}};
 
 static KeyCode keyNamed(Words name) {
-    const auto known = std::ranges::find(named_keys, name, &NamedKey::name);
+    const auto* const known = std::ranges::find(named_keys, name, &NamedKey::name);
     return known == std::end(named_keys) ? utf16(name).front() : known->key;
 }
 
@@ -83,9 +83,9 @@ static void pressInWindow(Stage& stage, Words key) {
 // Tells what becomes of each key.
 static void pressKeys(Stage& stage, Words keys, const std::function<KeyCode(KeyCode)>& pressed) {
     std::string passed = "passes";
-    for (Words name : wordsOf(keys)) {
+    for (Words name : wordsIn(keys)) {
         const KeyCode key = pressed(keyNamed(name));
-        const auto known = std::ranges::find(named_keys, key, &NamedKey::key);
+        const auto* const known = std::ranges::find(named_keys, key, &NamedKey::key);
         passed += " " + (known == std::end(named_keys) ? utf8({&key, 1}) : known->name);
     }
     stage.machine.tell(passed);
@@ -145,7 +145,7 @@ static void drawWideBoxFront(FrmPadrao& form, Texts& t) {
                 t["preco"], numberOf(t["quantidade"]));
 }
 static void refuse(Stage& stage, Words words) {
-    const std::vector<std::string> steps = wordsOf(words);
+    const std::vector<std::string> steps = wordsIn(words);
     stage.machine.failing = {steps.begin(), steps.end()};
 }
 

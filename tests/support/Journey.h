@@ -20,6 +20,7 @@ class Stage : public Workbench {
         add("FrmMargensCxZPL45.", fieldsOf(form.FrmMargensCxZPL45));
         add("FrmMargensPackZPL.", fieldsOf(form.FrmMargensPackZPL));
         add("FrmParametroImpressora.", fieldsOf(form.FrmParametroImpressora));
+        add("printer.", {{"face", machine.printers.face}, {"weight", machine.printers.weight}});
     }
 
     /// The texts that a label is drawn with.

@@ -10,6 +10,9 @@ namespace etiquetas::test {
 
 // How a field stands, in words: its text in quotes or its value, and what is out of the ordinary.
 
+inline std::string wordsOf(const std::string& name) {
+    return name;
+}
 inline std::string wordsOf(const Text& text) {
     return inQuotes(text);
 }
