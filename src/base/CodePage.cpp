@@ -40,9 +40,15 @@ char byteOf(char16_t character) {
 } // namespace
 
 Text fromCodePage1252(std::string_view bytes) {
-    Text text(bytes.size(), u'\0');
-    std::transform(bytes.begin(), bytes.end(), text.begin(), characterOf);
+    Text text;
+    appendCodePage1252(text, bytes);
     return text;
+}
+
+void appendCodePage1252(Text& text, std::string_view bytes) {
+    const std::size_t before = text.size();
+    text.resize(before + bytes.size());
+    std::transform(bytes.begin(), bytes.end(), text.data() + before, characterOf);
 }
 
 std::string toCodePage1252(TextView text) {

@@ -46,7 +46,7 @@ struct FrmPadrao {
                       0};
     TextField txtarquivo{u"1400050831", u"Pedido"};
     ListField filelist{.visible = false};
-    ListField List1{.visible = false};
+    LineField List1{.visible = false};
 
     // Item of the box, hidden and accessory kinds
     Panel Frame1{Text(panel_caption::caixa_oculta)};

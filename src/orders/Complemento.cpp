@@ -4,7 +4,10 @@
 #include "base/Numbers.h"
 #include "config/ProgramFiles.h"
 #include "model/FrmPadrao.h"
+#include "orders/GradeAcessorio.h"
+#include "orders/GradeFc.h"
 #include "orders/OrderFormat.h"
+#include "orders/OrderIndex.h"
 #include "platform/Files.h"
 #include "platform/Pictures.h"
 
@@ -36,26 +39,32 @@ void takeCodes(FrmPadrao& form, const OrderLine& line, std::size_t barcode, std:
     form.lblmaster.caption = trimmed(line[master]);
 }
 
-void lookUpAccessory(FrmPadrao& form) {
+// The first line of the item in the order. A line too short for the comparison fails.
+template <typename Take>
+void lookUp(FrmPadrao& form, IndexLine how, const ItemKeyFields& key, const Take& take) {
     const Wanted wanted(form);
-    for (const Text& text : form.List1.entries) {
+    const auto item = itemHash(wanted.code, wanted.description, wanted.colour);
+    form.List1.entries.visit(how, item, short_lines, [&](TextView text) {
         const OrderLine line(text);
-        if (wanted.foundIn(line, accessory_key)) {
-            takeCodes(form, line, accessory_field::barcode, accessory_field::master);
-            return;
-        }
-    }
+        return !wanted.foundIn(line, key) || !take(line);
+    });
+}
+
+void lookUpAccessory(FrmPadrao& form) {
+    lookUp(form, cutAndIndex<indexAccessoryLine>, accessory_key, [&](const OrderLine& line) {
+        takeCodes(form, line, accessory_field::barcode, accessory_field::master);
+        return true;
+    });
 }
 
 void lookUpSize(FrmPadrao& form, TextView tamanho) {
-    const Wanted wanted(form);
-    for (const Text& text : form.List1.entries) {
-        const OrderLine line(text);
-        if (wanted.foundIn(line, box_key) && line[box_field::size] == tamanho) {
+    lookUp(form, cutAndIndex<indexBoxLine>, box_key, [&](const OrderLine& line) {
+        const bool is_size = line[box_field::size] == tamanho;
+        if (is_size) {
             takeCodes(form, line, box_field::barcode, box_field::master);
-            return;
         }
-    }
+        return is_size;
+    });
 }
 
 } // namespace

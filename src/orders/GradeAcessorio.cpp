@@ -3,6 +3,7 @@
 #include "model/FrmPadrao.h"
 #include "orders/ItemSlots.h"
 #include "orders/OrderFormat.h"
+#include "orders/OrderIndex.h"
 
 #include <array>
 #include <optional>
@@ -90,6 +91,17 @@ class Filler {
 
 } // namespace
 
+LineIndex::Line indexAccessoryLine(LineIndex& index, LineIndex::Line number,
+                                   const OrderBytes& line) {
+    const AccessoryLayout* const layout = layoutOf(line, layouts);
+    const LineIndex::Line first = indexByItem(index, number, line, accessory_key);
+    if (first != LineIndex::none && layout != nullptr) {
+        indexByCode(index, number, line, accessory_key,
+                    trimmed(line[accessory_field::master]).substr(0, layout->code_length));
+    }
+    return first;
+}
+
 void carrega_grade_Acessorio(FrmPadrao& form) {
     OCULTA_ITENS(form);
     form.TXTPARES.text.clear();
@@ -99,13 +111,13 @@ void carrega_grade_Acessorio(FrmPadrao& form) {
     }
     const ItemKey item(form.cmb_referencia.text);
     Filler filler(form);
-    for (const Text& text : form.List1.entries) {
-        const OrderLine line(text);
-        const AccessoryLayout* const layout = layoutOf(line, layouts);
-        if (layout != nullptr && belongsTo(line, *layout, item)) {
-            filler.take(line, *layout);
-        }
-    }
+    visitItem(form.List1.entries, cutAndIndex<indexAccessoryLine>, item,
+              [&](const OrderLine& line) {
+                  const AccessoryLayout* const layout = layoutOf(line, layouts);
+                  if (layout != nullptr && belongsTo(line, *layout, item)) {
+                      filler.take(line, *layout);
+                  }
+              });
 }
 
 } // namespace etiquetas

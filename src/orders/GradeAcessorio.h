@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orders/OrderIndex.h"
+
 namespace etiquetas {
 
 struct FrmPadrao;
@@ -9,5 +11,10 @@ struct FrmPadrao;
 /// beyond the last slot is reported. Where no line matches, the item fields keep the values of the
 /// item before.
 void carrega_grade_Acessorio(FrmPadrao& form);
+
+/// Adds an accessory line to an index of the order by its items, and gives the first line of the
+/// same one; `none` where the line is too short.
+LineIndex::Line indexAccessoryLine(LineIndex& index, LineIndex::Line number,
+                                   const OrderBytes& line);
 
 } // namespace etiquetas

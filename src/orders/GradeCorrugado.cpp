@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "model/FrmPadrao.h"
 #include "orders/OrderFormat.h"
+#include "orders/OrderIndex.h"
 
 #include <array>
 #include <optional>
@@ -30,6 +31,7 @@ struct CorrugatedLayout {
 };
 
 constexpr std::size_t narrow = 13;
+constexpr LineIndex::Hash narrow_lines = short_lines + 1; // the key of those lines in an index
 // clang-format off
 constexpr std::array<CorrugatedLayout, 5> layouts{{
     // width, compared, prepack, grades, total, week, suffix_test, suffix, destination, volume, ean
@@ -90,20 +92,19 @@ void fillFields(FrmPadrao& form, const OrderLine& line, const CorrugatedLayout& 
 
 // Takes the first line of the pack. A line of width 13 that is another pack's ends the search.
 void fillFromLines(FrmPadrao& form, const ItemKey& item) {
-    for (const Text& text : form.List1.entries) {
+    const auto look = [&](TextView text) {
         const OrderLine line(text);
         const CorrugatedLayout* const layout = layoutOf(line, layouts);
         if (layout == nullptr) {
-            continue;
+            return true;
         }
         const bool found = belongsTo(line, *layout, item);
         if (found) {
             fillFields(form, line, *layout);
         }
-        if (found || layout->width == narrow) {
-            return;
-        }
-    }
+        return !found && layout->width != narrow;
+    };
+    form.List1.entries.visit(cutAndIndex<indexCorrugatedLine>, itemHash(item), narrow_lines, look);
 }
 
 // Fills both lists with the carton numbers of "first/last". They are 16-bit numbers, as on the
@@ -135,6 +136,19 @@ void chooseAllVolumes(FrmPadrao& form) {
 }
 
 } // namespace
+
+LineIndex::Line indexCorrugatedLine(LineIndex& index, LineIndex::Line number,
+                                    const OrderBytes& line) {
+    const CorrugatedLayout* const layout = layoutOf(line, layouts);
+    const LineIndex::Line first = indexByItem(index, number, line, corrugated_key);
+    if (first != LineIndex::none && layout != nullptr) {
+        indexByCode(index, number, line, corrugated_key, trimmed(line[layout->compared]));
+        if (layout->width == narrow) {
+            index.add(narrow_lines, number);
+        }
+    }
+    return first;
+}
 
 void carrega_corrugado(FrmPadrao& form) {
     clearFields(form);

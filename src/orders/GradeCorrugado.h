@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orders/OrderIndex.h"
+
 namespace etiquetas {
 
 struct FrmPadrao;
@@ -9,5 +11,10 @@ struct FrmPadrao;
 /// one. Where no line matches, all of it is empty. Fails where a carton number is no number or
 /// leaves 16 bits.
 void carrega_corrugado(FrmPadrao& form);
+
+/// Adds a carton line to an index of the order by its packs, and gives the first line of the same
+/// one; `none` where the line is too short.
+LineIndex::Line indexCorrugatedLine(LineIndex& index, LineIndex::Line number,
+                                    const OrderBytes& line);
 
 } // namespace etiquetas

@@ -4,6 +4,7 @@
 #include "orders/Complemento.h"
 #include "orders/ItemSlots.h"
 #include "orders/OrderFormat.h"
+#include "orders/OrderIndex.h"
 
 #include <array>
 #include <optional>
@@ -57,11 +58,10 @@ void fillItemFields(FrmPadrao& form, const OrderLine& line, const BoxLayout& lay
 
 void fillFromLines(FrmPadrao& form, const ItemKey& item) {
     std::size_t count = 0;
-    for (const Text& text : form.List1.entries) {
-        const OrderLine line(text);
+    visitItem(form.List1.entries, cutAndIndex<indexBoxLine>, item, [&](const OrderLine& line) {
         const BoxLayout* const layout = layoutOf(line, layouts);
         if (layout == nullptr || !belongsTo(line, item)) {
-            continue;
+            return;
         }
         if (count == 0) {
             fillItemFields(form, line, *layout);
@@ -70,10 +70,19 @@ void fillFromLines(FrmPadrao& form, const ItemKey& item) {
             tellSlotsAreFull(form);
         }
         ++count;
-    }
+    });
 }
 
 } // namespace
+
+LineIndex::Line indexBoxLine(LineIndex& index, LineIndex::Line number, const OrderBytes& line) {
+    const LineIndex::Line first = indexByItem(index, number, line, box_key);
+    if (first != LineIndex::none) {
+        indexByCode(index, number, line, box_key,
+                    trimmed(line[box_field::master]).substr(0, product_code_length));
+    }
+    return first;
+}
 
 void carrega_gradeFc(FrmPadrao& form) {
     form.tem_imagem = false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orders/OrderIndex.h"
+
 namespace etiquetas {
 
 struct FrmPadrao;
@@ -9,5 +11,9 @@ struct FrmPadrao;
 /// no line matches, the item fields keep the values of the item before. A fifteenth size is
 /// reported and left out. Fails where a quantity does not convert or leaves 16 bits.
 void carrega_gradeFc(FrmPadrao& form);
+
+/// Adds a box line to an index of the order by its items, and gives the first line of the same one;
+/// `none` where the line is too short.
+LineIndex::Line indexBoxLine(LineIndex& index, LineIndex::Line number, const OrderBytes& line);
 
 } // namespace etiquetas

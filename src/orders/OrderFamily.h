@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "model/FrmPadrao.h"
 #include "orders/OrderFormat.h"
+#include "orders/OrderIndex.h"
 
 namespace etiquetas {
 
@@ -18,6 +19,8 @@ struct OrderFamily {
     TextView name;
     TextView word;                 // in the file name, upper case
     ItemKeyFields key;             // of the items
+    IndexFields index;             // of the lines by their items
+    IndexLine index_bytes;         // the same of lines that are not cut yet
     ListField FrmPadrao::*items;   // the item list
     Panel FrmPadrao::*panel;       // the item panel, of which one shows at a time
     TextView caption;              // of that panel

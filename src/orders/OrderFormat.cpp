@@ -9,11 +9,26 @@ namespace etiquetas {
 
 namespace {
 
-constexpr TextView key_separator = u" | ";
-
 TextView partOf(const std::vector<TextView>& parts, std::size_t index) {
     return index < parts.size() ? trimmed(parts[index]) : TextView{};
 }
+
+// What the five steps leave of a run of blanks: each makes one blank of so many.
+constexpr std::size_t reducedRun(std::size_t blanks) {
+    for (const std::size_t run : {5U, 4U, 3U, 2U, 2U}) {
+        blanks = blanks / run + blanks % run;
+    }
+    return blanks;
+}
+
+// The same for the runs that orders are full of.
+constexpr auto reduced_runs = [] {
+    std::array<std::size_t, 64> reduced{};
+    for (std::size_t blanks = 0; blanks < reduced.size(); ++blanks) {
+        reduced[blanks] = reducedRun(blanks);
+    }
+    return reduced;
+}();
 
 } // namespace
 
@@ -24,16 +39,6 @@ TextView OrderLine::operator[](std::size_t field) const {
     return fields_[field];
 }
 
-std::optional<Text> itemKey(const OrderLine& line, const ItemKeyFields& fields) {
-    if (line.width() <= std::max({fields.code, fields.description, fields.colour})) {
-        return std::nullopt;
-    }
-    Text key(left(line[fields.code], fields.code_length));
-    key.append(key_separator).append(line[fields.description]);
-    key.append(key_separator).append(line[fields.colour]);
-    return key;
-}
-
 ItemKey::ItemKey(TextView key) {
     const auto parts = split(key, u'|');
     code = partOf(parts, 0);
@@ -41,27 +46,41 @@ ItemKey::ItemKey(TextView key) {
     colour = partOf(parts, 2);
 }
 
-std::vector<TextView> linesOf(TextView file) {
-    constexpr TextView line_ends = u"\r\n";
-    std::vector<TextView> lines;
-    while (!file.empty()) {
-        const auto end = std::min(file.find_first_of(line_ends), file.size());
-        lines.push_back(file.substr(0, end));
-        const bool pair = file.substr(end, line_ends.size()) == line_ends;
-        file.remove_prefix(std::min(end + (pair ? 2 : 1), file.size()));
+std::optional<std::string_view> LineCutter::next() {
+    if (at_ >= file_.size()) {
+        return std::nullopt;
     }
-    return lines;
+    const auto find = [this](std::size_t& known, char character) {
+        if (known <= at_) {
+            known = std::min(file_.find(character, at_), file_.size());
+        }
+    };
+    find(carriage_return_, '\r');
+    find(line_feed_, '\n');
+    const std::size_t start = at_;
+    const std::size_t end = std::min(carriage_return_, line_feed_);
+    at_ = line_feed_ == end + 1 ? end + 2 : end + 1;
+    return file_.substr(start, end - start);
 }
 
-Text withReducedBlanks(TextView line) {
-    constexpr std::array<TextView, 5> runs{u"     ", u"    ", u"   ", u"  ", u"  "};
-    Text reduced(line);
-    for (const TextView run : runs) {
-        if (reduced.find(run) != Text::npos) {
-            reduced = replaceAll(reduced, run, u" ");
+std::size_t copyReduced(std::string_view line, char* target) {
+    const char* from = line.data();
+    const char* const end = from + line.size();
+    char* to = target;
+    while (from != end) {
+        const char byte = *from++;
+        *to++ = byte;
+        if (byte != ' ' || from == end || *from != ' ') {
+            continue;
         }
+        const char* const run = from - 1;
+        from = std::find_if(from, end, [](char next) { return next != ' '; });
+        const auto blanks = static_cast<std::size_t>(from - run);
+        const std::size_t left =
+            blanks < reduced_runs.size() ? reduced_runs[blanks] : reducedRun(blanks);
+        to = std::fill_n(to, left - 1, ' ');
     }
-    return reduced;
+    return static_cast<std::size_t>(to - target);
 }
 
 } // namespace etiquetas

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace etiquetas {
@@ -26,9 +27,8 @@ class OrderLine {
 };
 
 /// The layout of the line's width in a table of layouts; nothing where the table has none.
-template <typename Layout, std::size_t count>
-[[nodiscard]] const Layout* layoutOf(const OrderLine& line,
-                                     const std::array<Layout, count>& layouts) {
+template <typename Line, typename Layout, std::size_t count>
+[[nodiscard]] const Layout* layoutOf(const Line& line, const std::array<Layout, count>& layouts) {
     for (const Layout& layout : layouts) {
         if (layout.width == line.width()) {
             return &layout;
@@ -37,17 +37,14 @@ template <typename Layout, std::size_t count>
     return nullptr;
 }
 
-/// Where the three parts of an item key stand in a line of one file kind.
+/// Where the three parts of an item key stand in a line of one file kind. The key that an item is
+/// chosen by is "code | description | colour", the fields as they stand.
 struct ItemKeyFields {
     std::size_t code;
     std::size_t code_length; // characters of the code field that count
     std::size_t description;
     std::size_t colour;
 };
-
-/// The key that an item is chosen by: "code | description | colour", the fields as they stand.
-/// Nothing when the line is too short for it.
-[[nodiscard]] std::optional<Text> itemKey(const OrderLine& line, const ItemKeyFields& fields);
 
 /// The three parts of a chosen item key, trimmed. A typed text may lack parts; they are empty then,
 /// and fit blank fields.
@@ -101,11 +98,26 @@ inline constexpr ItemKeyFields accessory_key{accessory_field::master, product_co
 inline constexpr ItemKeyFields corrugated_key{6, TextView::npos, corrugated_field::description,
                                               corrugated_field::colour};
 
-/// The lines of a file, ended by CR LF, CR or LF, the last one with or without an end.
-[[nodiscard]] std::vector<TextView> linesOf(TextView file);
+/// Cuts the bytes of a file into lines, ended by CR LF, CR or LF, the last one with or without an
+/// end. They may be written over up to the line that was cut last.
+class LineCutter {
+  public:
+    explicit LineCutter(std::string_view file) : file_(file) {}
 
-/// The line with its runs of blanks reduced: five to one, four to one, three to one, two to one
-/// and two to one again, each over the whole line. A longer run may keep more than one.
-[[nodiscard]] Text withReducedBlanks(TextView line);
+    /// The next line; nothing at the end of the file.
+    [[nodiscard]] std::optional<std::string_view> next();
+
+  private:
+    std::string_view file_;
+    std::size_t at_ = 0;
+    // Where the next CR and the next LF stand, unless that lies behind by now.
+    std::size_t carriage_return_ = 0;
+    std::size_t line_feed_ = 0;
+};
+
+/// Copies a line with its runs of blanks reduced: five to one, four to one, three to one, two to
+/// one and two to one again, each over the whole line. A longer run may keep more than one. The
+/// target may be the line itself, or lie before it. Gives the length of the copy.
+std::size_t copyReduced(std::string_view line, char* target);
 
 } // namespace etiquetas

@@ -8,28 +8,31 @@ namespace etiquetas {
 
 namespace {
 
-void checkPosition(const ListField& list, int at) {
-    if (at < 0 || static_cast<std::size_t>(at) >= list.entries.size()) {
+template <typename Entries>
+std::size_t checkedPosition(const Entries& entries, int at) {
+    if (at < 0 || static_cast<std::size_t>(at) >= entries.size()) {
         throw subscriptOutOfRange();
     }
+    return static_cast<std::size_t>(at);
 }
 
 } // namespace
 
-void ListField::clear() {
+template <typename Entries>
+void BasicListField<Entries>::clear() {
     entries.clear();
     type({});
 }
 
-void ListField::choose(int at) {
-    checkPosition(*this, at);
+template <typename Entries>
+void BasicListField<Entries>::choose(int at) {
+    text = entries.textAt(checkedPosition(entries, at));
     position = at;
-    text = entries[static_cast<std::size_t>(at)];
 }
 
-void ListField::remove(int at) {
-    checkPosition(*this, at);
-    entries.erase(entries.begin() + at);
+template <typename Entries>
+void BasicListField<Entries>::remove(int at) {
+    entries.removeAt(checkedPosition(entries, at));
     if (at == position) {
         type({});
     } else if (at < position) {
@@ -37,9 +40,13 @@ void ListField::remove(int at) {
     }
 }
 
-void ListField::type(Text typed) {
+template <typename Entries>
+void BasicListField<Entries>::type(Text typed) {
     text = std::move(typed);
     position = -1;
 }
+
+template struct BasicListField<EntryList>;
+template struct BasicListField<LineList>;
 
 } // namespace etiquetas

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "base/Text.h"
+#include "platform/EntryList.h"
+#include "platform/LineList.h"
 #include "platform/Picture.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 namespace etiquetas {
 
@@ -49,10 +50,11 @@ struct Label {
 
 /// A drop-down list that takes typed text too. `position` is the chosen entry, counted from 0, and
 /// -1 when the text was typed or nothing is chosen.
-struct ListField {
+template <typename Entries>
+struct BasicListField {
     Text text;
     Text caption;
-    std::vector<Text> entries;
+    Entries entries;
     int position = -1;
     bool visible = true;
 
@@ -66,6 +68,10 @@ struct ListField {
     /// What the operator types: no entry is chosen then.
     void type(Text typed);
 };
+
+using ListField = BasicListField<EntryList>;
+/// A list that nothing shows, of very many lines.
+using LineField = BasicListField<LineList>;
 
 struct Panel {
     Text caption;

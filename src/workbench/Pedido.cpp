@@ -7,6 +7,7 @@
 #include "model/FrmPadrao.h"
 #include "orders/OrderFamily.h"
 #include "orders/OrderFormat.h"
+#include "orders/OrderIndex.h"
 #include "platform/Files.h"
 #include "platform/MessageBoxes.h"
 #include "workbench/LabelKinds.h"
@@ -14,7 +15,8 @@
 #include <algorithm>
 #include <optional>
 #include <string>
-#include <unordered_set>
+#include <string_view>
+#include <utility>
 
 namespace etiquetas {
 
@@ -94,18 +96,18 @@ Text pathOf(const FrmPadrao& form, TextView name) {
                   upper_is_listed ? upperCase(name) : Text(name));
 }
 
-// The order's file as text; empty, and reported, where there is nothing to read.
-Text readOrder(FrmPadrao& form, TextView name) {
+// The bytes of the order's file; empty, and reported, where there is nothing to read.
+std::string readOrder(FrmPadrao& form, TextView name) {
     const Text path = pathOf(form, name);
     if (!form.platform.files.fileExists(path)) {
         warn(form, u"O arquivo não existe!");
         return {};
     }
-    const auto bytes = bytesOf(form, path);
+    auto bytes = bytesOf(form, path);
     if (bytes && bytes->empty()) {
         warn(form, u"O arquivo está em branco!");
     }
-    return fromCodePage1252(bytes.value_or(std::string()));
+    return std::move(bytes).value_or(std::string());
 }
 
 void showBanner(FrmPadrao& form, TextView header) {
@@ -116,52 +118,105 @@ void showBanner(FrmPadrao& form, TextView header) {
     form.LBLBRISAKO.visible = true;
 }
 
-// Takes the lines of an order to `List1` and its item keys to the item list, each key once.
+// Plain digits are by far the most of the quantities.
+bool isQuantity(std::string_view bytes) {
+    constexpr std::size_t most_plain = 15;
+    const std::string_view digits = trimmed(bytes);
+    const bool plain =
+        !digits.empty() && digits.size() <= most_plain &&
+        std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
+    return plain || isNumeric(fromCodePage1252(bytes));
+}
+
+// Takes the lines of an order to `List1` and its item keys to the item list, each key once. The
+// item lines move together at the front of the bytes that they came in.
 class OrderTaker {
   public:
-    OrderTaker(FrmPadrao& form, const OrderFamily& family)
-        : form_(form), family_(family), items_(form.*family.items) {}
+    OrderTaker(FrmPadrao& form, const OrderFamily& family, std::string order)
+        : form_(form), family_(family), items_(form.*family.items), bytes_(std::move(order)) {}
 
-    void take(TextView order) {
+    void take() {
         form_.List1.clear();
         items_.clear();
-        for (const TextView line : linesOf(order)) {
+        LineCutter cutter(bytes_);
+        while (const auto line = cutter.next()) {
             if (counter_ == 0) {
-                showBanner(form_, line);
+                showBanner(form_, fromCodePage1252(*line));
             }
             ++counter_;
-            if (counter_ > 1 && !isBlank(line)) {
-                takeItemLine(line);
+            if (counter_ > 1 && !trimmed(*line).empty()) {
+                takeItemLine(*line);
             }
         }
+        form_.List1.entries.take(std::move(bytes_), std::move(ends_), family_.index_bytes,
+                                 std::move(index_));
     }
 
     /// Numbers of the lines that were too short for their item key, the header being line 1.
     [[nodiscard]] const std::vector<std::int32_t>& shortLines() const { return short_lines_; }
 
   private:
-    void takeItemLine(TextView line) {
-        Text reduced = withReducedBlanks(line);
-        const OrderLine fields(reduced);
-        if (!isNumeric(fields[0])) {
+    void takeItemLine(std::string_view line) {
+        const std::string_view reduced = movedTogether(line);
+        const OrderBytes fields(reduced);
+        if (!isQuantity(fields[0])) {
             return;
         }
-        const auto key = itemKey(fields, family_.key);
-        if (!key) {
+        if (!hasKey(fields, family_.key)) {
             short_lines_.push_back(counter_);
             return;
         }
-        if (known_keys_.insert(*key).second) {
-            items_.entries.push_back(*key);
+        const auto number = static_cast<LineIndex::Line>(ends_.size());
+        const LineIndex::Line first = family_.index(index_, number, fields);
+        ends_.push_back(end() + reduced.size());
+        if (isNewKey(number, first, fields)) {
+            items_.entries.push_back(itemKey(fields, family_.key));
         }
-        form_.List1.entries.push_back(std::move(reduced));
+        last_taken_ = fields;
+    }
+
+    // The line with its blanks reduced, right behind those that were taken.
+    std::string_view movedTogether(std::string_view line) {
+        char* const target = bytes_.data() + end();
+        return {target, copyReduced(line, target)};
+    }
+
+    [[nodiscard]] std::size_t end() const { return ends_.empty() ? 0 : ends_.back(); }
+
+    [[nodiscard]] OrderBytes taken(LineIndex::Line number) const {
+        const std::size_t start = number == 0 ? 0 : ends_[number - 1];
+        return OrderBytes(std::string_view(bytes_).substr(start, ends_[number] - start));
+    }
+
+    // Keys that differ in the blanks at the ends of their parts have the same first line. Mostly
+    // the lines of an item stand one after the other.
+    bool isNewKey(LineIndex::Line number, LineIndex::Line first, const OrderBytes& line) {
+        if (first == number) {
+            return true;
+        }
+        if (sameKey(last_taken_, line, family_.key) || sameKey(taken(first), line, family_.key)) {
+            return false;
+        }
+        const LineIndex::Hash key = keyHash(line, family_.key);
+        auto others = other_keys_.linesOf(key, [](LineIndex::Line) { return false; });
+        for (; others.line() != LineIndex::none; others.next()) {
+            if (sameKey(taken(others.line()), line, family_.key)) {
+                return false;
+            }
+        }
+        other_keys_.add(key, number);
+        return true;
     }
 
     FrmPadrao& form_;
     const OrderFamily& family_;
     ListField& items_;
+    std::string bytes_;
+    std::vector<std::size_t> ends_; // of the item lines that were taken
+    LineIndex index_;
+    OrderBytes last_taken_;
+    LineIndex other_keys_; // lines whose key is not that of the first line of their item
     std::int32_t counter_ = 0;
-    std::unordered_set<Text> known_keys_;
     std::vector<std::int32_t> short_lines_;
 };
 
@@ -219,12 +274,12 @@ void carrega_pedido(FrmPadrao& form) {
     GravaIni(files, ini_section::config, config_key::order, form.txtarquivo.text,
              settingsPath(files));
     showPanel(form, *family);
-    const Text order = readOrder(form, name);
+    std::string order = readOrder(form, name);
     if (order.empty()) {
         return;
     }
-    OrderTaker taker(form, *family);
-    taker.take(order);
+    OrderTaker taker(form, *family, std::move(order));
+    taker.take();
     loadFirstItem(form, *family);
     lockGrades(form);
     reportShortLines(form, name, taker.shortLines());

@@ -2,6 +2,7 @@
 
 #include "desktop/machine/QtText.h"
 #include "desktop/machine/RasterImage.h"
+#include "desktop/windows/EntryModel.h"
 
 #include <QColor>
 #include <QComboBox>
@@ -93,24 +94,9 @@ void pullList(const QComboBox& box, ListField& field) {
     field.position = chosen ? at : -1;
 }
 
-// An item list may hold many thousands of entries; they are handed over only when they changed.
-void pushEntries(QComboBox& box, const ListField& field, std::vector<Text>& shown) {
-    if (field.entries == shown) {
-        return;
-    }
-    QStringList entries;
-    entries.reserve(static_cast<qsizetype>(field.entries.size()));
-    for (const Text& entry : field.entries) {
-        entries.append(toQString(entry));
-    }
-    box.clear();
-    box.addItems(entries);
-    shown = field.entries;
-}
-
-void pushList(QComboBox& box, const ListField& field, std::vector<Text>& shown) {
+void pushList(QComboBox& box, const ListField& field, EntryModel& entries) {
     const QSignalBlocker quiet(box);
-    pushEntries(box, field, shown);
+    entries.show(field.entries);
     if (box.currentIndex() != field.position) {
         box.setCurrentIndex(field.position);
     }
@@ -155,8 +141,10 @@ FieldRow mirrored(QComboBox& box, QLabel* caption, ListField& field) {
     FieldRow row;
     row.widget = &box;
     row.pull = [&box, &field] { pullList(box, field); };
-    row.push = [&box, caption, &field, shown = std::make_shared<std::vector<Text>>()] {
-        pushList(box, field, *shown);
+    auto* const entries = new EntryModel(&box); // which deletes it
+    box.setModel(entries);
+    row.push = [&box, caption, &field, entries] {
+        pushList(box, field, *entries);
         pushCaption(caption, field, box);
     };
     return row;
