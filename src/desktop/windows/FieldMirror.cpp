@@ -2,14 +2,14 @@
 
 #include "desktop/machine/QtText.h"
 #include "desktop/machine/RasterImage.h"
+#include "desktop/windows/FieldEdit.h"
+#include "desktop/windows/PictureLabel.h"
 
 #include <QColor>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPalette>
 #include <QPixmap>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -59,22 +59,7 @@ void select(QLineEdit& edit, const Selection& selection) {
     }
 }
 
-void colourBackground(QWidget& widget, const Colour& colour) {
-    const QColor wanted(colour.red, colour.green, colour.blue);
-    if (widget.palette().color(QPalette::Base) != wanted) {
-        QPalette palette = widget.palette();
-        palette.setColor(QPalette::Base, wanted);
-        widget.setPalette(palette);
-    }
-}
-
-// A locked field shows that it is one.
-Colour shownColour(const TextField& field) {
-    constexpr Colour light_grey{240, 240, 240};
-    return field.locked && field.back_colour == white ? light_grey : field.back_colour;
-}
-
-void pushEdit(QLineEdit& edit, const TextField& field) {
+void pushEdit(FieldEdit& edit, const TextField& field) {
     const QString text = toQString(field.text);
     if (edit.text() != text) {
         edit.setText(text);
@@ -82,7 +67,8 @@ void pushEdit(QLineEdit& edit, const TextField& field) {
     select(edit, field.selection);
     edit.setReadOnly(field.locked);
     edit.setToolTip(toQString(field.tooltip));
-    colourBackground(edit, shownColour(field));
+    const auto& [red, green, blue] = field.back_colour;
+    edit.showPaper(QColor(red, green, blue), field.locked && field.back_colour == white);
     showOrHide(edit, field.visible);
 }
 
@@ -121,22 +107,9 @@ void pushList(QComboBox& box, const ListField& field, std::vector<Text>& shown) 
     showOrHide(box, field.visible);
 }
 
-// Sharp on a screen of any scale.
-QPixmap pixmapOf(const Raster& raster, const QLabel& label) {
-    const qreal dots = label.devicePixelRatioF();
-    const QSize room = label.contentsRect().size() * dots;
-    QImage image = imageOf(raster);
-    const bool larger = image.width() > room.width() || image.height() > room.height();
-    if (larger) {
-        image = image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        image.setDevicePixelRatio(dots);
-    }
-    return QPixmap::fromImage(image);
-}
-
 } // namespace
 
-FieldRow mirrored(QLineEdit& edit, QLabel* caption, TextField& field) {
+FieldRow mirrored(FieldEdit& edit, QLabel* caption, TextField& field) {
     FieldRow row;
     row.widget = &edit;
     row.text_field = &field;
@@ -169,12 +142,13 @@ FieldRow mirrored(QLabel& label, Label& field) {
     return row;
 }
 
-FieldRow mirrored(QLabel& label, PictureField& field) {
+FieldRow mirrored(PictureLabel& label, PictureField& field) {
     FieldRow row;
     row.widget = &label;
     row.push = [&label, &field, shown = std::make_shared<Picture>()] {
         if (field.picture != *shown) {
-            label.setPixmap(field.picture ? pixmapOf(*field.picture, label) : QPixmap());
+            label.setPixmap(field.picture ? QPixmap::fromImage(imageOf(*field.picture))
+                                          : QPixmap());
             *shown = field.picture;
         }
         showOrHide(label, field.visible);

@@ -87,8 +87,9 @@ TEST_F(BindingsTest, nameAllWidgetsThatAWindowLacks) {
         const BridgedWindow table = fieldTable(form, main);
         FAIL() << "bound " << table.rows.size() << " fields";
     } catch (const std::logic_error& fault) {
-        EXPECT_STREQ(fault.what(), "Faltam na janela FrmPadrao: QLineEdit txtnumero_13, "
-                                   "QLabel txtcor_caption, QComboBox CMBPRINTER, QLabel pctimage");
+        EXPECT_STREQ(fault.what(), "Faltam na janela FrmPadrao: etiquetas::FieldEdit txtnumero_13, "
+                                   "QLabel txtcor_caption, QComboBox CMBPRINTER, "
+                                   "etiquetas::PictureLabel pctimage");
     }
 }
 
