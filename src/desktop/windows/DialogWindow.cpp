@@ -5,6 +5,7 @@
 #include "ui_MarginWindow.h"
 #include "ui_ParameterWindow.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
@@ -17,7 +18,18 @@
 
 namespace etiquetas {
 
+namespace {
+
+// The toolkit takes a window of this base for a part of another one.
+QAccessibleInterface* dialogForReaders(const QString& /*kind*/, QObject* object) {
+    auto* const dialog = qobject_cast<DialogWindow*>(object);
+    return dialog != nullptr ? new QAccessibleWidget(dialog, QAccessible::Dialog) : nullptr;
+}
+
+} // namespace
+
 DialogWindow::DialogWindow() {
+    QAccessible::installFactory(dialogForReaders);
     setWindowFlags(Qt::Dialog);
     const auto* const escape = new QShortcut(Qt::Key_Escape, this);
     connect(escape, &QShortcut::activated, this, [this] { closed_(); });

@@ -28,17 +28,27 @@ void showOrHide(QWidget& widget, bool visible) {
     }
 }
 
+// Of a list, a screen reader reads the line in it.
+void nameForReaders(QWidget& widget, const QString& name) {
+    widget.setAccessibleName(name);
+    if (const auto* const list = qobject_cast<const QComboBox*>(&widget)) {
+        list->lineEdit()->setAccessibleName(name);
+    }
+}
+
 void pushLabel(QLabel& label, const Text& text, bool visible) {
     label.setTextFormat(Qt::PlainText); // an order may hold anything, markup among it
     label.setText(toQString(text));
     showOrHide(label, visible);
+    if (QWidget* const named = label.buddy()) {
+        nameForReaders(*named, label.text());
+    }
 }
 
 template <typename Field>
-void pushCaption(QLabel* caption, const Field& field, QWidget& widget) {
+void pushCaption(QLabel* caption, const Field& field) {
     if (caption != nullptr) {
         pushLabel(*caption, field.caption, field.visible);
-        widget.setAccessibleName(toQString(field.caption));
     }
 }
 
@@ -119,7 +129,7 @@ FieldRow mirrored(FieldEdit& edit, QLabel* caption, TextField& field) {
     };
     row.push = [&edit, caption, &field] {
         pushEdit(edit, field);
-        pushCaption(caption, field, edit);
+        pushCaption(caption, field);
     };
     return row;
 }
@@ -130,7 +140,7 @@ FieldRow mirrored(QComboBox& box, QLabel* caption, ListField& field) {
     row.pull = [&box, &field] { pullList(box, field); };
     row.push = [&box, caption, &field, shown = std::make_shared<std::vector<Text>>()] {
         pushList(box, field, *shown);
-        pushCaption(caption, field, box);
+        pushCaption(caption, field);
     };
     return row;
 }

@@ -42,7 +42,8 @@ struct FieldRow {
 };
 
 // Rows without events, one kind of field each. The caption stands in a label of its own, null where
-// the field has none, and is hidden with the field; screen readers tell it as the field's name.
+// the field has none, and is hidden with the field. The text of a label is what screen readers call
+// the field that it is the buddy of.
 // Field and widgets must outlive the row.
 
 [[nodiscard]] FieldRow mirrored(FieldEdit& edit, QLabel* caption, TextField& field);

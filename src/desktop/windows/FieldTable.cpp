@@ -101,6 +101,13 @@ bool previewKey(FrmPadrao& form, KeyCode key) {
     return previewed;
 }
 
+// By key as by a double click on it, which needs it to be there.
+void unlockShownSizeRun(FrmPadrao& form) {
+    if (form.Frame3.visible) {
+        txtgrade1_dblclick(form);
+    }
+}
+
 } // namespace
 
 BridgedWindow fieldTable(FrmPadrao& form, WorkbenchWindow& window) {
@@ -110,7 +117,9 @@ BridgedWindow fieldTable(FrmPadrao& form, WorkbenchWindow& window) {
     return {.window = &window,
             .rows = binder.takeRows(),
             .push = [&form, &window] { pushWindow(form, window); },
-            .keydown = [&form](KeyCode key) { return previewKey(form, key); }};
+            .keydown = [&form](KeyCode key) { return previewKey(form, key); },
+            .keys = {{Qt::Key_F2, [&form] { Frame4_dblclick(form); }},
+                     {Qt::Key_F3, [&form] { unlockShownSizeRun(form); }}}};
 }
 
 } // namespace etiquetas

@@ -36,8 +36,9 @@ class HeldKeys final : public QObject {
 
 void ask(QMessageBox& box) {
     HeldKeys held;
-    for (QAbstractButton* const button : box.buttons()) {
-        button->installEventFilter(&held);
+    box.installEventFilter(&held);
+    for (QWidget* const part : box.findChildren<QWidget*>()) {
+        part->installEventFilter(&held);
     }
     box.exec();
 }

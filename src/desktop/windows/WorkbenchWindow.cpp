@@ -1,15 +1,23 @@
 #include "desktop/windows/WorkbenchWindow.h"
 
 #include "desktop/windows/FocusRing.h"
+#include "desktop/windows/KeysWindow.h"
 #include "ui_WorkbenchWindow.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFontInfo>
+#include <QIcon>
 #include <QScreen>
+#include <QShortcut>
 #include <QSizePolicy>
 #include <QStatusBar>
 #include <QWindow>
+
+// A linker leaves out what nothing names; the toolkit wants this one outside all namespaces.
+static void nameIcons() {
+    Q_INIT_RESOURCE(icons);
+}
 
 namespace etiquetas {
 
@@ -30,6 +38,15 @@ double pointsOf(const QFont& font) {
     return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
 }
 
+QIcon programIcon() {
+    nameIcons();
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        icon.addFile(QStringLiteral(":/icons/etiquetas-%1.png").arg(size));
+    }
+    return icon;
+}
+
 QSize roomOn(const QScreen& screen) {
     return screen.availableSize() - desktop_frame;
 }
@@ -39,6 +56,7 @@ QSize roomOn(const QScreen& screen) {
 WorkbenchWindow::WorkbenchWindow() {
     Ui::WorkbenchWindow form;
     form.setupUi(this);
+    QApplication::setWindowIcon(programIcon());
     lengths_.emplace(*this);
     middle_ = form.middle;
     lumira_ = form.pctlogo2;
@@ -52,10 +70,20 @@ WorkbenchWindow::WorkbenchWindow() {
         keepRoom(*panel, false);
     }
     new FocusRing(*this);
+    addKeys();
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget* /*before*/, const QWidget* now) { showFocused(now); });
     // Not where the label kind is: leaving that would load the last order before another is typed.
     form.txtarquivo->setFocus();
+}
+
+void WorkbenchWindow::addKeys() {
+    auto* const keys = new KeysWindow(*this);
+    auto* const help = new QShortcut(Qt::Key_F1, this);
+    help->setContext(Qt::ApplicationShortcut);
+    connect(help, &QShortcut::activated, keys, &KeysWindow::open);
+    const auto* const folder = new QShortcut(Qt::Key_F5, this);
+    connect(folder, &QShortcut::activated, this, [this] { show_folder_(); });
 }
 
 void WorkbenchWindow::showSize(TwipSize size) {

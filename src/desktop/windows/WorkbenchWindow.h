@@ -39,6 +39,8 @@ class WorkbenchWindow final : public QMainWindow {
     void onClose(std::function<bool()> closed) { closed_ = std::move(closed); }
     /// What runs when the window gets another size.
     void onResize(std::function<void()> resized) { resized_ = std::move(resized); }
+    /// What runs when the folder of the last labels is to be shown.
+    void onShowFolder(std::function<void()> shown) { show_folder_ = std::move(shown); }
 
   signals:
     /// The font of the desktop or the screen has changed, and the unit with it.
@@ -51,6 +53,7 @@ class WorkbenchWindow final : public QMainWindow {
     void showEvent(QShowEvent* event) override;
 
   private:
+    void addKeys();
     void followScreen();
     void applyUnit();
     void showFocused(const QWidget* widget);
@@ -64,6 +67,7 @@ class WorkbenchWindow final : public QMainWindow {
     PictureLabel* brisako_ = nullptr;
     std::function<bool()> closed_ = [] { return true; };
     std::function<void()> resized_ = [] {};
+    std::function<void()> show_folder_ = [] {};
 };
 
 } // namespace etiquetas
