@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <QTextDocument>
 #include <QToolTip>
 
 namespace etiquetas {
@@ -39,18 +40,18 @@ bool FieldEdit::isTooNarrow() const {
 
 bool FieldEdit::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && isTooNarrow()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text().toHtmlEscaped(),
-                           this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tipOf(text()), this);
         return true;
     }
-    return QLineEdit::event(event);
-}
-
-void FieldEdit::changeEvent(QEvent* event) {
-    QLineEdit::changeEvent(event);
+    const bool taken = QLineEdit::event(event);
     if (event->type() == QEvent::ApplicationPaletteChange) {
         applyPaper();
     }
+    return taken;
+}
+
+QString FieldEdit::tipOf(const QString& text) {
+    return Qt::convertFromPlainText(text.left(longest_shown), Qt::WhiteSpaceNormal);
 }
 
 void FieldEdit::paintEvent(QPaintEvent* event) {

@@ -17,10 +17,11 @@ class FieldEdit final : public QLineEdit {
     void showPaper(const QColor& paper, bool locked);
     /// True while the text is wider than the field.
     [[nodiscard]] bool isTooNarrow() const;
+    /// A tool tip of a text that may hold anything, markup among it.
+    [[nodiscard]] static QString tipOf(const QString& text);
 
   protected:
     bool event(QEvent* event) override;
-    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:

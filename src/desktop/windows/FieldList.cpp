@@ -22,7 +22,7 @@ class EntryDelegate final : public QStyledItemDelegate {
                    const QModelIndex& index) override {
         const bool cut = sizeHint(option, index).width() > view->viewport()->width();
         QToolTip::showText(event->globalPos(),
-                           cut ? displayText(index.data(), {}).toHtmlEscaped() : QString(), view);
+                           cut ? FieldEdit::tipOf(index.data().toString()) : QString(), view);
         return true;
     }
 };
@@ -48,11 +48,12 @@ void FieldList::applyPaper() {
     view()->setPalette(palette());
 }
 
-void FieldList::changeEvent(QEvent* event) {
-    QComboBox::changeEvent(event);
+bool FieldList::event(QEvent* event) {
+    const bool taken = QComboBox::event(event);
     if (event->type() == QEvent::ApplicationPaletteChange) {
         applyPaper();
     }
+    return taken;
 }
 
 } // namespace etiquetas

@@ -13,7 +13,7 @@ class FieldList final : public QComboBox {
     explicit FieldList(QWidget* parent = nullptr);
 
   protected:
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
 
   private:
     void applyPaper();

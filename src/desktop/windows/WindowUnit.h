@@ -8,6 +8,8 @@ namespace etiquetas {
 struct TwipSize {
     int width = 0;
     int height = 0;
+
+    friend bool operator==(const TwipSize&, const TwipSize&) = default;
 };
 
 /// The unit that all lengths of the windows are told in. It follows the desktop's font: at the

@@ -72,7 +72,7 @@ WorkbenchWindow::WorkbenchWindow() {
     new FocusRing(*this);
     addKeys();
     connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget* /*before*/, const QWidget* now) { showFocused(now); });
+            [this](QWidget* /*before*/, QWidget* now) { showFocused(now); });
     // Not where the label kind is: leaving that would load the last order before another is typed.
     form.txtarquivo->setFocus();
 }
@@ -87,7 +87,7 @@ void WorkbenchWindow::addKeys() {
 }
 
 void WorkbenchWindow::showSize(TwipSize size) {
-    if (size.width != size_.width || size.height != size_.height) {
+    if (size != size_) {
         size_ = size;
         applyUnit();
     }
@@ -116,11 +116,10 @@ void WorkbenchWindow::followScreen() {
     applyUnit();
 }
 
-void WorkbenchWindow::showFocused(const QWidget* widget) {
+void WorkbenchWindow::showFocused(QWidget* widget) {
     constexpr int sight_of_caption = 30; // pixels at the reference font
     if (widget != nullptr && middle_->isAncestorOf(widget)) {
-        middle_->ensureWidgetVisible(const_cast<QWidget*>(widget), 0,
-                                     unit_.pixels(sight_of_caption));
+        middle_->ensureWidgetVisible(widget, 0, unit_.pixels(sight_of_caption));
     }
 }
 

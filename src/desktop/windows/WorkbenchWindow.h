@@ -56,7 +56,7 @@ class WorkbenchWindow final : public QMainWindow {
     void addKeys();
     void followScreen();
     void applyUnit();
-    void showFocused(const QWidget* widget);
+    void showFocused(QWidget* widget);
 
     TwipSize size_;
     WindowUnit unit_;

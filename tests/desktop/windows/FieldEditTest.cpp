@@ -29,6 +29,8 @@ TEST(FieldEditTest, carriesDarkTextOnPaperInADarkDesktop) {
     edit.showPaper(Qt::white, true);
     EXPECT_EQ(edit.palette().color(QPalette::Base), QColor(37, 37, 38)) << "of the window";
     QApplication::setPalette(QPalette());
+    QEvent changed(QEvent::ApplicationPaletteChange); // which a running program tells its widgets
+    QApplication::sendEvent(&edit, &changed);
     EXPECT_GT(edit.palette().color(QPalette::Base).lightness(), 192) << "follows the desktop";
 }
 
