@@ -25,6 +25,7 @@ if [ "$purpose" = test ]; then
         libgtest-dev libgmock-dev # test framework
         zbar-tools mupdf-tools    # readers of the printed bars and pages
         fontconfig                # where the fonts are
+        fonts-dejavu-core fonts-noto-core fonts-cantarell # fonts of desktops
         xvfb xauth                # a display for the real window
         strace                    # system calls that fail
     )

@@ -9,8 +9,10 @@
 #include "workbench/Inicio.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QUrl>
 
 namespace etiquetas {
 
@@ -31,6 +33,7 @@ Desktop::Desktop(const QString& folder)
                         [this] { folder_memory_.forget(); });
     process_.onEnd([this] { end(0); });
     window_.onClose([this] { return close(); });
+    window_.onShowFolder([this] { showJobFolder(); });
     window_.onResize([this] { bridge_.run([this] { FrmPadrao_resize(form_); }); });
     surface_.onJobEnded([this](const EndedJob& job) {
         logJob(log_, job);
@@ -45,14 +48,22 @@ void Desktop::keepLog() {
     files_.onRead([this](TextView path, std::size_t bytes) { logFileRead(log_, path, bytes); });
 }
 
-// None at the start, when the main window does not stand anywhere yet.
+// A box of the start-up brings its window with it.
 QWidget* Desktop::windowUnderBoxes() {
     QWidget& active = bridge_.activeWindow();
-    return active.isVisible() ? &active : nullptr;
+    active.show();
+    return &active;
+}
+
+void Desktop::showJobFolder() const {
+    if (!last_job_.isEmpty()) {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(last_job_).path()));
+    }
 }
 
 void Desktop::tellOfJob(const QString& path) {
     const QString folder = pdf_folder.toString() + u'/';
+    last_job_ = path.isEmpty() ? last_job_ : path;
     window_.tell(path.isEmpty() ? QStringLiteral("Etiquetas não gravadas em ") + folder
                                 : QStringLiteral("Etiquetas gravadas em ") + folder +
                                       QFileInfo(path).fileName(),

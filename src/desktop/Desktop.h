@@ -49,6 +49,7 @@ class Desktop {
     void bridgeWindows();
     [[nodiscard]] QWidget* windowUnderBoxes();
     void tellOfJob(const QString& path);
+    void showJobFolder() const;
     bool close();
     void end(int exit_code);
     void endOnFailure(const QString& description);
@@ -68,6 +69,7 @@ class Desktop {
     QtFolderPicker folders_;
     QtCommandStart commands_;
     FrmPadrao form_;
+    QString last_job_; // the path of the PDF file that was written last
     WorkbenchWindow window_;
     MarginWindow oculta_margins_{QStringLiteral("FrmMargensOcultaZPL2")};
     MarginWindow caixa_margins_{QStringLiteral("FrmMargensCxZPL45")};

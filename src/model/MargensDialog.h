@@ -24,6 +24,7 @@ struct MargensDialog {
     Label Label3; // default of `txtmargem2`
     Label Label5{u"Novo Valor"};
     Label Label6; // caption of `txtmargemsuperior`
+    Label top_default;
     TextField txtmargem1{.text = u"Text1", .caption = u"Coluna 1 (mm)"};
     TextField txtmargem2{.text = u"Text1", .caption = u"Coluna 2 (mm)"};
     TextField txtmargemsuperior;
@@ -35,7 +36,7 @@ struct MargensDialog {
     bool to_front = false;
 };
 
-/// Where a margin is typed in, and the label that shows its default; the top margin has none.
+/// Where a margin is typed in, and the label that shows its default.
 struct MarginEntry {
     TextField MargensDialog::*field = nullptr;
     Label MargensDialog::*default_label = nullptr;
@@ -44,7 +45,7 @@ struct MarginEntry {
 namespace margin_entry {
 inline constexpr MarginEntry column1{&MargensDialog::txtmargem1, &MargensDialog::Label2};
 inline constexpr MarginEntry column2{&MargensDialog::txtmargem2, &MargensDialog::Label3};
-inline constexpr MarginEntry top{&MargensDialog::txtmargemsuperior, nullptr};
+inline constexpr MarginEntry top{&MargensDialog::txtmargemsuperior, &MargensDialog::top_default};
 } // namespace margin_entry
 
 /// The margins of a stock that was never calibrated, whole millimetres.
@@ -67,6 +68,7 @@ inline constexpr DefaultMargins carton{.column1 = 3, .top = 3};
             .Label2 = {numberText(default_margins::hidden.column1)},
             .Label3 = {numberText(default_margins::hidden.column2)},
             .Label6 = {u"Margem Superior"},
+            .top_default = {numberText(default_margins::hidden.top)},
             .txtmargemsuperior = {.text = numberText(default_margins::hidden.top)},
             .txtcodigo = TextField{.text = u"Text1", .visible = false}};
 }
@@ -77,7 +79,8 @@ inline constexpr DefaultMargins carton{.column1 = 3, .top = 3};
             .Frame1 = {u"Etiqueta 45X40X2"},
             .Label2 = {numberText(default_margins::box_front.column1)},
             .Label3 = {numberText(default_margins::box_front.column2)},
-            .Label6 = {u"Margem Esquerda"}};
+            .Label6 = {u"Margem Esquerda"},
+            .top_default = {numberText(default_margins::box_front.top)}};
 }
 
 /// `FrmMargensPackZPL`, the margins of the carton label, which has one column, as designed.
@@ -87,6 +90,7 @@ inline constexpr DefaultMargins carton{.column1 = 3, .top = 3};
             .Label2 = {numberText(default_margins::carton.column1)},
             .Label3 = {.visible = false},
             .Label6 = {u"Margem Superior"},
+            .top_default = {numberText(default_margins::carton.top)},
             .txtmargem1 = {.text = u"Text1", .caption = u"Margem Esquerda (mm)"},
             .txtmargem2 = {.visible = false}};
 }

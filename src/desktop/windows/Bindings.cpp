@@ -1,9 +1,11 @@
 #include "desktop/windows/Bindings.h"
 
+#include "desktop/windows/FieldEdit.h"
+#include "desktop/windows/PictureLabel.h"
+
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include <stdexcept>
@@ -12,7 +14,7 @@
 namespace etiquetas {
 
 void WindowBinder::add(const QString& name, TextField& field, FieldEvents on) {
-    addCaptioned<QLineEdit>(name, field, std::move(on));
+    addCaptioned<FieldEdit>(name, field, std::move(on));
 }
 
 void WindowBinder::add(const QString& name, ListField& field, FieldEvents on) {
@@ -24,7 +26,7 @@ void WindowBinder::add(const QString& name, Label& field, FieldEvents on) {
 }
 
 void WindowBinder::add(const QString& name, PictureField& field, FieldEvents on) {
-    addPlain<QLabel>(name, field, std::move(on));
+    addPlain<PictureLabel>(name, field, std::move(on));
 }
 
 void WindowBinder::add(const QString& name, Panel& field, FieldEvents on) {

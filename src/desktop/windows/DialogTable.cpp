@@ -3,6 +3,7 @@
 #include "desktop/machine/QtText.h"
 #include "desktop/windows/Bindings.h"
 #include "desktop/windows/DialogWindow.h"
+#include "desktop/windows/WorkbenchWindow.h"
 #include "margins/Margens.h"
 #include "model/FrmPadrao.h"
 #include "workbench/FrmParametroImpressora.h"
@@ -31,6 +32,7 @@ constexpr Binding<MargensDialog, FrmPadrao, MargensDialog> margin_bindings[] = {
     {"Label3", &MargensDialog::Label3},
     {"Label5", &MargensDialog::Label5},
     {"Label6", &MargensDialog::Label6},
+    {"top_default", &MargensDialog::top_default},
     {"txtmargem1", &MargensDialog::txtmargem1, margin_events<&MargensDialog::txtmargem1>},
     {"txtmargem2", &MargensDialog::txtmargem2, margin_events<&MargensDialog::txtmargem2>},
     {"txtmargemsuperior", &MargensDialog::txtmargemsuperior,
@@ -55,7 +57,7 @@ constexpr Binding<ParametroDialog, FrmPadrao> parameter_bindings[] = {
 
 // The window shows the dialog's caption, and stands over the main window while the dialog is open.
 template <typename Dialog>
-void pushDialog(Dialog& dialog, DialogWindow& window, QWidget& main) {
+void pushDialog(Dialog& dialog, DialogWindow& window, WorkbenchWindow& main) {
     window.setWindowTitle(toQString(dialog.Caption));
     if (dialog.open && (window.isHidden() || dialog.to_front)) {
         window.openOver(main);
@@ -65,8 +67,22 @@ void pushDialog(Dialog& dialog, DialogWindow& window, QWidget& main) {
     dialog.to_front = false;
 }
 
+// A told caption that leaves the unit out shows it all the same.
+void tellMillimetres(std::vector<FieldRow>& rows, const char* name, const char* shown_text) {
+    for (FieldRow& row : rows) {
+        if (row.widget->objectName() == QLatin1String(name)) {
+            row.push = [push = std::move(row.push), widget = row.widget, shown_text] {
+                push();
+                const QString told = widget->property(shown_text).toString();
+                widget->setProperty(shown_text, told + QStringLiteral(" (mm)"));
+            };
+        }
+    }
+}
+
 template <typename Dialog>
-BridgedWindow bridged(Dialog& dialog, DialogWindow& window, QWidget& main, WindowBinder& binder) {
+BridgedWindow bridged(Dialog& dialog, DialogWindow& window, WorkbenchWindow& main,
+                      WindowBinder& binder) {
     return {.window = &window,
             .rows = binder.takeRows(),
             .push = [&dialog, &window, &main] { pushDialog(dialog, window, main); },
@@ -76,17 +92,21 @@ BridgedWindow bridged(Dialog& dialog, DialogWindow& window, QWidget& main, Windo
 } // namespace
 
 BridgedWindow marginTable(FrmPadrao& form, MargensDialog& dialog, DialogWindow& window,
-                          QWidget& main) {
+                          WorkbenchWindow& main) {
     WindowBinder binder(window);
     binder.add(margin_bindings, dialog, form, dialog);
-    return bridged(dialog, window, main, binder);
+    BridgedWindow table = bridged(dialog, window, main, binder);
+    tellMillimetres(table.rows, "Label6", "text");
+    return table;
 }
 
-BridgedWindow parameterTable(FrmPadrao& form, DialogWindow& window, QWidget& main) {
+BridgedWindow parameterTable(FrmPadrao& form, DialogWindow& window, WorkbenchWindow& main) {
     ParametroDialog& dialog = form.FrmParametroImpressora;
     WindowBinder binder(window);
     binder.add(parameter_bindings, dialog, form);
-    return bridged(dialog, window, main, binder);
+    BridgedWindow table = bridged(dialog, window, main, binder);
+    tellMillimetres(table.rows, "Frame5", "title");
+    return table;
 }
 
 } // namespace etiquetas

@@ -1,13 +1,19 @@
 #pragma once
 
+#include "desktop/windows/FormLengths.h"
+
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 namespace etiquetas {
 
+class WorkbenchWindow;
+
 /// A dialog beside the Workbench: the widgets of its form, each named after its field. It stays
-/// over the main window and leaves it usable. It is shown and hidden from outside alone.
+/// over the main window, in the same unit, and leaves it usable. It is shown and hidden from
+/// outside alone.
 class DialogWindow : public QWidget {
     Q_OBJECT
 
@@ -17,20 +23,26 @@ class DialogWindow : public QWidget {
 
     /// Shows the dialog in the middle of the main window, its first field ready for typing; one
     /// that is open already comes to the front.
-    void openOver(QWidget& main);
+    void openOver(WorkbenchWindow& main);
     /// Hides the dialog and goes back to the main window.
-    void closeOver(QWidget& main);
+    void closeOver(WorkbenchWindow& main);
 
   protected:
     DialogWindow();
 
-    /// The field that is ready for typing when the dialog opens.
-    void startAt(QWidget& field) { first_field_ = &field; }
+    /// Takes over what the form has set up, and the field that is ready for typing when the dialog
+    /// opens.
+    void complete(QWidget& first_field);
 
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void followUnit(const WorkbenchWindow& main);
+    void standOver(const WorkbenchWindow& main);
+
     QWidget* first_field_ = this;
+    std::optional<FormLengths> lengths_;
+    bool follows_ = false;
     std::function<void()> closed_ = [] {};
 };
 

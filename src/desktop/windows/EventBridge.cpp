@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QShortcut>
 #include <QShortcutEvent>
 
 #include <limits>
@@ -123,6 +124,9 @@ void EventBridge::add(BridgedWindow window) {
     for (FieldRow& row : windows_.back().rows) {
         watch(row);
     }
+    for (const WindowKey& key : windows_.back().keys) {
+        watch(key, *windows_.back().window);
+    }
     pushAll();
 }
 
@@ -147,6 +151,15 @@ void EventBridge::watch(FieldRow& row) {
         connect(button, &QPushButton::clicked, this,
                 [this, &row] { asHappening([&] { press(row); }); });
     }
+}
+
+void EventBridge::watch(const WindowKey& key, QWidget& window) {
+    auto* const shortcut = new QShortcut(key.key, &window);
+    shortcut->setAutoRepeat(false);
+    connect(shortcut, &QShortcut::activated, this, [this, &key] {
+        settleFocus();
+        run(key.run);
+    });
 }
 
 void EventBridge::run(const std::function<void()>& handler) {
@@ -286,7 +299,8 @@ bool EventBridge::handleEvent(const Place& place, const QObject& watched, QEvent
         }
         return false;
     case QEvent::Wheel:
-        // The wheel turns only a list that has the focus.
+        // The wheel turns only a list that has the focus, else the panels around it.
+        event.setAccepted(row->widget->hasFocus());
         return !row->widget->hasFocus();
     default:
         return false;
@@ -354,14 +368,14 @@ bool EventBridge::handleKey(const Place& place, const QKeyEvent& event) {
 }
 
 // True when the key walked to another field. Enter on a command presses it instead, and the focus
-// stays, so that one more Enter prints the next item. The arrow keys walk through the entries of a
-// list.
+// stays, so that one more Enter prints the next item. A list whose arrow keys walk through its
+// entries keeps the window from looking; Alt and an arrow key open any list.
 bool EventBridge::handleWindowKey(const Place& place, const QKeyEvent& event) {
     const KeyCode code = walkingKey(event);
     const bool presses = code == key::enter && place.row->on.click;
-    const bool walks_list =
-        code != key::enter && qobject_cast<const QComboBox*>(place.row->widget) != nullptr;
-    if (code == key::none || presses || walks_list || !place.window->keydown) {
+    const bool opens_list = event.modifiers().testFlag(Qt::AltModifier) &&
+                            qobject_cast<const QComboBox*>(place.row->widget) != nullptr;
+    if (code == key::none || presses || opens_list || !place.window->keydown) {
         return false;
     }
     bool taken = false;

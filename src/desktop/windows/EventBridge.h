@@ -18,6 +18,12 @@ namespace etiquetas {
 
 class QtFocus;
 
+/// A key that runs an event of a window, whatever field has the focus.
+struct WindowKey {
+    Qt::Key key = Qt::Key_unknown;
+    std::function<void()> run;
+};
+
 /// A window of the program, and what it has to do with the fields.
 struct BridgedWindow {
     QWidget* window = nullptr;
@@ -27,6 +33,7 @@ struct BridgedWindow {
     /// The window's look at a key that walks through the fields; tells whether it took the key.
     /// Empty where it takes none.
     std::function<bool(KeyCode)> keydown;
+    std::vector<WindowKey> keys{};
 };
 
 /// Turns what happens to the widgets of the windows into the events of their fields.
@@ -79,6 +86,7 @@ class EventBridge final : public QObject {
 
     void asHappening(const std::function<void()>& deed);
     void watch(FieldRow& row);
+    void watch(const WindowKey& key, QWidget& window);
     void pullAll();
     void runAlone(const std::function<void()>& handler);
     void runKept();

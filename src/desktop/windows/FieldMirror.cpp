@@ -3,14 +3,14 @@
 #include "desktop/machine/QtText.h"
 #include "desktop/machine/RasterImage.h"
 #include "desktop/windows/EntryModel.h"
+#include "desktop/windows/FieldEdit.h"
+#include "desktop/windows/PictureLabel.h"
 
 #include <QColor>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPalette>
 #include <QPixmap>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -29,17 +29,27 @@ void showOrHide(QWidget& widget, bool visible) {
     }
 }
 
+// Of a list, a screen reader reads the line in it.
+void nameForReaders(QWidget& widget, const QString& name) {
+    widget.setAccessibleName(name);
+    if (const auto* const list = qobject_cast<const QComboBox*>(&widget)) {
+        list->lineEdit()->setAccessibleName(name);
+    }
+}
+
 void pushLabel(QLabel& label, const Text& text, bool visible) {
     label.setTextFormat(Qt::PlainText); // an order may hold anything, markup among it
     label.setText(toQString(text));
     showOrHide(label, visible);
+    if (QWidget* const named = label.buddy()) {
+        nameForReaders(*named, label.text());
+    }
 }
 
 template <typename Field>
-void pushCaption(QLabel* caption, const Field& field, QWidget& widget) {
+void pushCaption(QLabel* caption, const Field& field) {
     if (caption != nullptr) {
         pushLabel(*caption, field.caption, field.visible);
-        widget.setAccessibleName(toQString(field.caption));
     }
 }
 
@@ -60,22 +70,7 @@ void select(QLineEdit& edit, const Selection& selection) {
     }
 }
 
-void colourBackground(QWidget& widget, const Colour& colour) {
-    const QColor wanted(colour.red, colour.green, colour.blue);
-    if (widget.palette().color(QPalette::Base) != wanted) {
-        QPalette palette = widget.palette();
-        palette.setColor(QPalette::Base, wanted);
-        widget.setPalette(palette);
-    }
-}
-
-// A locked field shows that it is one.
-Colour shownColour(const TextField& field) {
-    constexpr Colour light_grey{240, 240, 240};
-    return field.locked && field.back_colour == white ? light_grey : field.back_colour;
-}
-
-void pushEdit(QLineEdit& edit, const TextField& field) {
+void pushEdit(FieldEdit& edit, const TextField& field) {
     const QString text = toQString(field.text);
     if (edit.text() != text) {
         edit.setText(text);
@@ -83,7 +78,8 @@ void pushEdit(QLineEdit& edit, const TextField& field) {
     select(edit, field.selection);
     edit.setReadOnly(field.locked);
     edit.setToolTip(toQString(field.tooltip));
-    colourBackground(edit, shownColour(field));
+    const auto& [red, green, blue] = field.back_colour;
+    edit.showPaper(QColor(red, green, blue), field.locked && field.back_colour == white);
     showOrHide(edit, field.visible);
 }
 
@@ -107,22 +103,9 @@ void pushList(QComboBox& box, const ListField& field, EntryModel& entries) {
     showOrHide(box, field.visible);
 }
 
-// Sharp on a screen of any scale.
-QPixmap pixmapOf(const Raster& raster, const QLabel& label) {
-    const qreal dots = label.devicePixelRatioF();
-    const QSize room = label.contentsRect().size() * dots;
-    QImage image = imageOf(raster);
-    const bool larger = image.width() > room.width() || image.height() > room.height();
-    if (larger) {
-        image = image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        image.setDevicePixelRatio(dots);
-    }
-    return QPixmap::fromImage(image);
-}
-
 } // namespace
 
-FieldRow mirrored(QLineEdit& edit, QLabel* caption, TextField& field) {
+FieldRow mirrored(FieldEdit& edit, QLabel* caption, TextField& field) {
     FieldRow row;
     row.widget = &edit;
     row.text_field = &field;
@@ -132,7 +115,7 @@ FieldRow mirrored(QLineEdit& edit, QLabel* caption, TextField& field) {
     };
     row.push = [&edit, caption, &field] {
         pushEdit(edit, field);
-        pushCaption(caption, field, edit);
+        pushCaption(caption, field);
     };
     return row;
 }
@@ -145,7 +128,7 @@ FieldRow mirrored(QComboBox& box, QLabel* caption, ListField& field) {
     box.setModel(entries);
     row.push = [&box, caption, &field, entries] {
         pushList(box, field, *entries);
-        pushCaption(caption, field, box);
+        pushCaption(caption, field);
     };
     return row;
 }
@@ -157,12 +140,13 @@ FieldRow mirrored(QLabel& label, Label& field) {
     return row;
 }
 
-FieldRow mirrored(QLabel& label, PictureField& field) {
+FieldRow mirrored(PictureLabel& label, PictureField& field) {
     FieldRow row;
     row.widget = &label;
     row.push = [&label, &field, shown = std::make_shared<Picture>()] {
         if (field.picture != *shown) {
-            label.setPixmap(field.picture ? pixmapOf(*field.picture, label) : QPixmap());
+            label.setPixmap(field.picture ? QPixmap::fromImage(imageOf(*field.picture))
+                                          : QPixmap());
             *shown = field.picture;
         }
         showOrHide(label, field.visible);

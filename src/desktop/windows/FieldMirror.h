@@ -8,11 +8,13 @@
 class QComboBox;
 class QGroupBox;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class QWidget;
 
 namespace etiquetas {
+
+class FieldEdit;
+class PictureLabel;
 
 /// What the events of a field run; empty where an event runs nothing.
 struct FieldEvents {
@@ -40,14 +42,14 @@ struct FieldRow {
 };
 
 // Rows without events, one kind of field each. The caption stands in a label of its own, null where
-// the field has none, and is hidden with the field; screen readers tell it as the field's name.
+// the field has none, and is hidden with the field. The text of a label is what screen readers call
+// the field that it is the buddy of.
 // Field and widgets must outlive the row.
 
-[[nodiscard]] FieldRow mirrored(QLineEdit& edit, QLabel* caption, TextField& field);
+[[nodiscard]] FieldRow mirrored(FieldEdit& edit, QLabel* caption, TextField& field);
 [[nodiscard]] FieldRow mirrored(QComboBox& box, QLabel* caption, ListField& field);
 [[nodiscard]] FieldRow mirrored(QLabel& label, Label& field);
-/// The picture is scaled down into the label where it is larger.
-[[nodiscard]] FieldRow mirrored(QLabel& label, PictureField& field);
+[[nodiscard]] FieldRow mirrored(PictureLabel& label, PictureField& field);
 [[nodiscard]] FieldRow mirrored(QGroupBox& box, Panel& field);
 [[nodiscard]] FieldRow mirrored(QPushButton& button, Command& field);
 

@@ -2,6 +2,7 @@
 
 #include "desktop/machine/QtText.h"
 #include "desktop/windows/Bindings.h"
+#include "desktop/windows/WorkbenchWindow.h"
 #include "model/FrmPadrao.h"
 #include "workbench/Campos.h"
 #include "workbench/Dialogos.h"
@@ -9,7 +10,8 @@
 #include "workbench/Saida.h"
 
 #include <QString>
-#include <QWidget>
+
+#include <optional>
 
 namespace etiquetas {
 
@@ -79,12 +81,18 @@ void addSlots(WindowBinder& binder, FrmPadrao& form) {
     }
 }
 
-void pushWindow(const FrmPadrao& form, QWidget& window) {
-    constexpr int twips_per_pixel = 15;
-    window.setWindowTitle(toQString(form.Caption));
-    if (form.Width > 0 && form.Height > 0) {
-        window.setFixedSize(form.Width / twips_per_pixel, form.Height / twips_per_pixel);
+// A label's banner is that of the shown name: by its first letter LUMIRA, else the other one.
+std::optional<bool> bannerOf(const Label& name) {
+    if (!name.visible) {
+        return std::nullopt;
     }
+    return name.caption.starts_with(u'L');
+}
+
+void pushWindow(const FrmPadrao& form, WorkbenchWindow& window) {
+    window.setWindowTitle(toQString(form.Caption));
+    window.showSize({form.Width, form.Height});
+    window.showBanner(bannerOf(form.LBLBRISAKO));
 }
 
 bool previewKey(FrmPadrao& form, KeyCode key) {
@@ -93,16 +101,25 @@ bool previewKey(FrmPadrao& form, KeyCode key) {
     return previewed;
 }
 
+// By key as by a double click on it, which needs it to be there.
+void unlockShownSizeRun(FrmPadrao& form) {
+    if (form.Frame3.visible) {
+        txtgrade1_dblclick(form);
+    }
+}
+
 } // namespace
 
-BridgedWindow fieldTable(FrmPadrao& form, QWidget& window) {
+BridgedWindow fieldTable(FrmPadrao& form, WorkbenchWindow& window) {
     WindowBinder binder(window);
     addSlots(binder, form);
     binder.add(bindings, form, form);
     return {.window = &window,
             .rows = binder.takeRows(),
             .push = [&form, &window] { pushWindow(form, window); },
-            .keydown = [&form](KeyCode key) { return previewKey(form, key); }};
+            .keydown = [&form](KeyCode key) { return previewKey(form, key); },
+            .keys = {{Qt::Key_F2, [&form] { Frame4_dblclick(form); }},
+                     {Qt::Key_F3, [&form] { unlockShownSizeRun(form); }}}};
 }
 
 } // namespace etiquetas

@@ -68,8 +68,9 @@ Answer QtMessageBoxes::show(const Message& message) {
 
 void QtMessageBoxes::ask(QMessageBox& box) {
     HeldKeys held;
-    for (QAbstractButton* const button : box.buttons()) {
-        button->installEventFilter(&held);
+    box.installEventFilter(&held);
+    for (QWidget* const part : box.findChildren<QWidget*>()) {
+        part->installEventFilter(&held);
     }
     box.exec();
     after_box_();

@@ -1,27 +1,30 @@
 #include "desktop/windows/WorkbenchWindow.h"
 
+#include "desktop/windows/FocusRing.h"
+#include "desktop/windows/KeysWindow.h"
 #include "ui_WorkbenchWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QComboBox>
-#include <QFont>
+#include <QFontInfo>
+#include <QIcon>
+#include <QScreen>
+#include <QShortcut>
 #include <QSizePolicy>
 #include <QStatusBar>
-#include <QVariant>
+#include <QWindow>
+
+// A linker leaves out what nothing names; the toolkit wants this one outside all namespaces.
+static void nameIcons() {
+    Q_INIT_RESOURCE(icons);
+}
 
 namespace etiquetas {
 
 namespace {
 
-// The size of a font stands in the form as a factor of the font that the machine gives its windows.
-void scaleFont(QWidget& widget) {
-    const QVariant scale = widget.property("fontScale");
-    if (scale.isValid()) {
-        QFont font = widget.font();
-        font.setPointSizeF(font.pointSizeF() * scale.toDouble());
-        widget.setFont(font);
-    }
-}
+// What the desktop puts around a window: a title bar above it, thin edges elsewhere.
+constexpr QSize desktop_frame(4, 40);
 
 // The window keeps its shape when a field is hidden.
 void keepRoom(QWidget& widget, bool keep) {
@@ -30,30 +33,116 @@ void keepRoom(QWidget& widget, bool keep) {
     widget.setSizePolicy(policy);
 }
 
+// A font is told in points or in pixels.
+double pointsOf(const QFont& font) {
+    return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
+}
+
+QIcon programIcon() {
+    nameIcons();
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        icon.addFile(QStringLiteral(":/icons/etiquetas-%1.png").arg(size));
+    }
+    return icon;
+}
+
+QSize roomOn(const QScreen& screen) {
+    return screen.availableSize() - desktop_frame;
+}
+
 } // namespace
 
 WorkbenchWindow::WorkbenchWindow() {
     Ui::WorkbenchWindow form;
     form.setupUi(this);
+    QApplication::setWindowIcon(programIcon());
+    lengths_.emplace(*this);
+    middle_ = form.middle;
+    lumira_ = form.pctlogo2;
+    brisako_ = form.pctlogo1;
     const QList<QWidget*> widgets = form.centre->findChildren<QWidget*>();
     for (QWidget* const widget : widgets) {
-        scaleFont(*widget);
         keepRoom(*widget, true);
     }
-    // One of the two item panels shows, and takes all the room.
-    keepRoom(*form.Frame1, false);
-    keepRoom(*form.Frame3, false);
-    const QList<QComboBox*> lists = findChildren<QComboBox*>();
-    for (QComboBox* const list : lists) {
-        list->setCompleter(nullptr);
+    // One of the two item panels shows, and takes all the room that the options leave.
+    for (QWidget* const panel : {form.Frame1, form.Frame2, form.Frame3}) {
+        keepRoom(*panel, false);
     }
+    new FocusRing(*this);
+    addKeys();
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget* /*before*/, QWidget* now) { showFocused(now); });
     // Not where the label kind is: leaving that would load the last order before another is typed.
     form.txtarquivo->setFocus();
+}
+
+void WorkbenchWindow::addKeys() {
+    auto* const keys = new KeysWindow(*this);
+    auto* const help = new QShortcut(Qt::Key_F1, this);
+    help->setContext(Qt::ApplicationShortcut);
+    connect(help, &QShortcut::activated, keys, &KeysWindow::open);
+    const auto* const folder = new QShortcut(Qt::Key_F5, this);
+    connect(folder, &QShortcut::activated, this, [this] { show_folder_(); });
+}
+
+void WorkbenchWindow::showSize(TwipSize size) {
+    if (size != size_) {
+        size_ = size;
+        applyUnit();
+    }
+}
+
+void WorkbenchWindow::applyUnit() {
+    if (size_.width <= 0 || size_.height <= 0) {
+        return;
+    }
+    const QFont font = QApplication::font();
+    const QSize room = roomOn(*screen());
+    unit_ = WindowUnit(pointsOf(font), logicalDpiY(), size_, room);
+    lengths_->show(unit_, font);
+    setFixedSize(unit_.pixels(size_).boundedTo(room));
+    emit unitChanged();
+}
+
+// The screen that the window stands on may change, and so may that screen.
+void WorkbenchWindow::followScreen() {
+    for (const QMetaObject::Connection& watched : screen_watch_) {
+        disconnect(watched);
+    }
+    screen_watch_ = {
+        connect(screen(), &QScreen::availableGeometryChanged, this, [this] { applyUnit(); }),
+        connect(screen(), &QScreen::logicalDotsPerInchChanged, this, [this] { applyUnit(); })};
+    applyUnit();
+}
+
+void WorkbenchWindow::showFocused(QWidget* widget) {
+    constexpr int sight_of_caption = 30; // pixels at the reference font
+    if (widget != nullptr && middle_->isAncestorOf(widget)) {
+        middle_->ensureWidgetVisible(widget, 0, unit_.pixels(sight_of_caption));
+    }
+}
+
+void WorkbenchWindow::showBanner(std::optional<bool> is_lumira) {
+    using enum PictureLabel::Standing;
+    const auto standing = [&](bool current) {
+        return is_lumira ? (current ? marked : faded) : alone;
+    };
+    lumira_->setStanding(standing(is_lumira == true));
+    brisako_->setStanding(standing(is_lumira == false));
 }
 
 void WorkbenchWindow::tell(const QString& status, const QString& tooltip) {
     statusBar()->showMessage(status);
     statusBar()->setToolTip(tooltip);
+}
+
+bool WorkbenchWindow::event(QEvent* event) {
+    const bool taken = QMainWindow::event(event);
+    if (event->type() == QEvent::ApplicationFontChange) {
+        applyUnit();
+    }
+    return taken;
 }
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event) {
@@ -63,6 +152,13 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event) {
 void WorkbenchWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     resized_();
+}
+
+void WorkbenchWindow::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    connect(windowHandle(), &QWindow::screenChanged, this, &WorkbenchWindow::followScreen,
+            Qt::UniqueConnection);
+    followScreen();
 }
 
 } // namespace etiquetas

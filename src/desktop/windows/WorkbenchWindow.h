@@ -1,33 +1,73 @@
 #pragma once
 
+#include "desktop/windows/FormLengths.h"
+#include "desktop/windows/WindowUnit.h"
+
 #include <QMainWindow>
+#include <QMetaObject>
 
 #include <functional>
+#include <optional>
+
+class QScrollArea;
 
 namespace etiquetas {
 
+class PictureLabel;
+
 /// The window of the Workbench: the widgets of its form, each named after its field. It knows
 /// nothing of what the fields do.
+///
+/// It has one size, told in twips, in a unit that follows the desktop's font; where the screen is
+/// too small even for the smallest readable texts, the panels in its middle scroll.
 class WorkbenchWindow final : public QMainWindow {
     Q_OBJECT
 
   public:
     WorkbenchWindow();
 
+    /// Gives the window its size, twips.
+    void showSize(TwipSize size);
+    /// The unit of this window and of the dialogs beside it.
+    [[nodiscard]] const WindowUnit& unit() const { return unit_; }
+    /// Marks the logo of one of the two banners, LUMIRA or the other one, and fades the other;
+    /// nothing is marked where no banner is shown.
+    void showBanner(std::optional<bool> is_lumira);
     /// Shows a line at the foot of the window until the next one; the tool tip tells more.
     void tell(const QString& status, const QString& tooltip);
     /// What runs when the window is to be closed; tells whether it closes.
     void onClose(std::function<bool()> closed) { closed_ = std::move(closed); }
     /// What runs when the window gets another size.
     void onResize(std::function<void()> resized) { resized_ = std::move(resized); }
+    /// What runs when the folder of the last labels is to be shown.
+    void onShowFolder(std::function<void()> shown) { show_folder_ = std::move(shown); }
+
+  signals:
+    /// The font of the desktop or the screen has changed, and the unit with it.
+    void unitChanged();
 
   protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
   private:
+    void addKeys();
+    void followScreen();
+    void applyUnit();
+    void showFocused(QWidget* widget);
+
+    TwipSize size_;
+    WindowUnit unit_;
+    std::optional<FormLengths> lengths_;
+    QList<QMetaObject::Connection> screen_watch_;
+    QScrollArea* middle_ = nullptr;
+    PictureLabel* lumira_ = nullptr;
+    PictureLabel* brisako_ = nullptr;
     std::function<bool()> closed_ = [] { return true; };
     std::function<void()> resized_ = [] {};
+    std::function<void()> show_folder_ = [] {};
 };
 
 } // namespace etiquetas

@@ -94,6 +94,27 @@ TEST_F(EventBridgeTest, walksItsListsByArrowAndLoadsThemWhenTheyAreLeft) {
     EXPECT_EQ(worker.text(u"txtcor"_s), u"AZUL"_s);
 }
 
+TEST_F(EventBridgeTest, walksByArrowOverListsThatKeepNoKeysAndOpensThem) {
+    open();
+    load(corrugado, "1400050831");
+    for (const QString& name : {u"cmb_vol1"_s, u"cmb_vol2"_s, u"CMBPRINTER"_s}) {
+        for (const Qt::Key arrow : {Qt::Key_Down, Qt::Key_Up}) {
+            worker.click(name);
+            const QString before = worker.text(name);
+            worker.press(arrow);
+            EXPECT_NE(worker.focused(), name);
+            EXPECT_EQ(worker.text(name), before);
+        }
+        for (const auto modifier : {Qt::AltModifier, Qt::NoModifier}) {
+            worker.click(name);
+            worker.press(modifier == Qt::AltModifier ? Qt::Key_Down : Qt::Key_F4, modifier);
+            auto& list = worker.widget<QComboBox>(name);
+            EXPECT_TRUE(list.view()->isVisible()) << name.toStdString();
+            list.hidePopup();
+        }
+    }
+}
+
 TEST_F(EventBridgeTest, changesAListByTheWheelOnlyWhileItHasTheFocus) {
     loadOrder();
     auto& kinds = worker.widget<QComboBox>(u"cmbtipo"_s);
@@ -136,10 +157,14 @@ TEST_F(EventBridgeTest, pressesACommandOnceAndAnswersNoBoxByAKeyThatIsHeldDown) 
     auto& print = worker.widget<QPushButton>(u"cmd_printacessorio"_s);
     QApplication::sendEvent(&print, &held);
     EXPECT_TRUE(jobs().isEmpty());
+    QKeyEvent held_escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
     bool stands = false;
     worker.beforeAnswer([&] {
         QWidget* const box = QApplication::activeModalWidget();
-        QApplication::sendEvent(box->focusWidget(), &held);
+        for (QWidget* const part : {box->focusWidget(), box}) {
+            QApplication::sendEvent(part, &held);
+            QApplication::sendEvent(part, &held_escape);
+        }
         stands = box->isVisible();
     });
     worker.click(u"cmd_printacessorio"_s);
@@ -159,6 +184,17 @@ TEST_F(EventBridgeTest, opensItsOptionsByTheFrameAloneAndItsItemsAsTheyAreNow) {
     EXPECT_TRUE(settings().contains("arquivo=78")); // the order was loaded before its list opened
     EXPECT_TRUE(items.view()->isVisible());
     items.hidePopup();
+}
+
+TEST_F(EventBridgeTest, opensOptionsSizeRunAndTheListOfKeysByKey) {
+    open();
+    worker.press(Qt::Key_F2);
+    EXPECT_FALSE(worker.widget<QWidget>(u"Frame2"_s).isHidden());
+    load(corrugado, "1400050831");
+    worker.press(Qt::Key_F3);
+    EXPECT_FALSE(worker.widget<QLineEdit>(u"txtgrade2"_s).isReadOnly());
+    worker.press(Qt::Key_F1);
+    EXPECT_TRUE(worker.widget<QDialog>(u"KeysWindow"_s).isVisible());
 }
 
 TEST_F(EventBridgeTest, locksAndUnlocksTheSizeRunByDoubleClicks) {

@@ -70,6 +70,18 @@ TEST_F(WorkbenchWindowTest, tellsScreenReadersTheCaptionsThatStandBesideItsField
     EXPECT_EQ(spokenName(u"TXTPARES"_s), u"Total de Itens"_s);
 }
 
+TEST_F(WorkbenchWindowTest, standsUnderTheBoxesOfItsStart) {
+    QFile::remove(folder.filePath(u"lumira.jpg"_s));
+    QWidget* stands_over = nullptr;
+    worker.beforeAnswer([&] {
+        const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        stands_over = box->parentWidget();
+        EXPECT_EQ(box->buttons().size(), 1);
+    });
+    open();
+    EXPECT_EQ(stands_over, &desktop->window());
+}
+
 TEST_F(WorkbenchWindowTest, takesTheTextsOfAnOrderAsTheyStand) {
     write(u"pedido 77 frente.txt"_s, "LUMIRA\r\n1;PRETO;<b>3;;" + QByteArray(40'000, 'A') +
                                          ";231045270100;3104527001;32;BK;A1\r\n");

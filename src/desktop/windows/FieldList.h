@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace etiquetas {
+
+/// A list on paper that takes typed text too. Entries that are too long for it show their beginning
+/// and "…", and the whole in a tool tip.
+class FieldList final : public QComboBox {
+    Q_OBJECT
+
+  public:
+    explicit FieldList(QWidget* parent = nullptr);
+
+  protected:
+    bool event(QEvent* event) override;
+
+  private:
+    void applyPaper();
+};
+
+} // namespace etiquetas
