@@ -4,11 +4,17 @@
 #include "desktop/machine/QtText.h"
 #include "desktop/windows/DialogTable.h"
 #include "desktop/windows/FieldTable.h"
+#include "desktop/windows/StatusLine.h"
+#include "workbench/Impressao.h"
 #include "workbench/Inicio.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
+#include <QDesktopServices>
+#include <QRegularExpression>
+#include <QUrl>
+
+#include <utility>
 
 namespace etiquetas {
 
@@ -20,21 +26,26 @@ Desktop::Desktop(const QString& folder)
       bridge_(focus_, [this](const QString& description) { endOnFailure(description); }) {
     keepLog();
     bridgeWindows();
-    messages_.standOver([this] { return windowUnderBoxes(); }, [this] { bridge_.pushAll(); });
+    guideOperator();
+    messages_.standOver([this] { return windowUnderBoxes(); },
+                        [this] {
+                            bridge_.pushAll();
+                            guide_.look();
+                            showStatus();
+                        });
     process_.onEnd([this] { end(0); });
     window_.onClose([this] { return close(); });
     window_.onResize([this] { bridge_.run([this] { FrmPadrao_resize(form_); }); });
-    surface_.onJobEnded([this](const EndedJob& job) {
-        logJob(log_, job);
-        if (job.target.built_in) {
-            tellOfJob(job.file);
-        }
-    });
 }
 
 void Desktop::keepLog() {
     logPrinters(log_, printers_);
-    files_.onRead([this](TextView path, std::size_t bytes) { logFileRead(log_, path, bytes); });
+    files_.onRead([this](TextView path, std::size_t bytes) {
+        logFileRead(log_, path, bytes);
+        if (toQString(path).endsWith(QStringLiteral(".txt"), Qt::CaseInsensitive)) {
+            guide_.orderRead(toQString(path));
+        }
+    });
 }
 
 // None at the start, when the main window does not stand anywhere yet.
@@ -43,12 +54,73 @@ QWidget* Desktop::windowUnderBoxes() {
     return active.isVisible() ? &active : nullptr;
 }
 
-void Desktop::tellOfJob(const QString& path) {
-    const QString folder = QStringLiteral("impressos/");
-    window_.tell(path.isEmpty() ? QStringLiteral("Etiquetas não gravadas em ") + folder
-                                : QStringLiteral("Etiquetas gravadas em ") + folder +
-                                      QFileInfo(path).fileName(),
-                 QDir::toNativeSeparators(path));
+void Desktop::guideOperator() {
+    surface_.countBy([this] { return labelCount(); });
+    JobDelivery& delivery = surface_.delivery();
+    delivery.titleBy([this] { return jobTitle(); });
+    delivery.onEnded([this](const EndedJob& job) {
+        logJob(log_, job);
+        guide_.jobEnded(job);
+    });
+    messages_.doubtBy([this](const Message& message) { return doubtOf(message); });
+    if (!printers_.answered()) {
+        guide_.printersMissing();
+    }
+    openBy([](const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
+    watchItemLists();
+}
+
+void Desktop::openBy(std::function<void(const QString& path)> open) {
+    window_.status().onOpen(std::move(open));
+}
+
+// Choosing an item is no event: it is loaded when its list is left.
+void Desktop::watchItemLists() {
+    const QList<QComboBox*> lists =
+        window_.findChildren<QComboBox*>(QRegularExpression(QStringLiteral("^cmb_referencia1?$")));
+    for (QComboBox* const list : lists) {
+        QObject::connect(list, &QComboBox::editTextChanged, list, [this](const QString& item) {
+            if (!bridge_.isRunning()) {
+                guide_.itemPicked(item);
+                showStatus();
+            }
+        });
+    }
+    bridge_.onEventEnded([this, lists] {
+        guide_.eventEnded(lists.contains(window_.focusWidget()));
+        showStatus();
+    });
+}
+
+void Desktop::showStatus() {
+    window_.status().tell(guide_.text());
+    window_.markSizes(guide_.isNotLoaded());
+}
+
+LabelCount Desktop::labelCount() const {
+    return {.begun = form_.labels_begun, .finished = form_.labels_finished};
+}
+
+// Kind, order and item. A margin dialog is open only during its test print: the Print command
+// closes all of them.
+QString Desktop::jobTitle() const {
+    const bool is_carton = !form_.Frame1.visible;
+    const bool is_test = form_.FrmMargensOcultaZPL2.open || form_.FrmMargensCxZPL45.open ||
+                         form_.FrmMargensPackZPL.open;
+    const Text kind = is_carton ? Text(tipo::corrugado) : form_.cmbtipo.text;
+    const std::vector<Text> item =
+        is_carton ? std::vector{form_.txtcodigo1.text, form_.txtdescricao1.text, form_.txtcor1.text}
+                  : std::vector{form_.txtcodigo.text, form_.txtdescricao.text, form_.txtcor.text};
+    QStringList words{is_test ? QStringLiteral("Teste") : QString(), toQString(kind),
+                      toQString(form_.txtarquivo.text)};
+    for (const Text& word : item) {
+        words << toQString(word);
+    }
+    return words.join(u' ').simplified();
+}
+
+QString Desktop::doubtOf(const Message& message) const {
+    return message.text == closing_question ? guide_.doubt() : QString();
 }
 
 // A window that lacks the widget of a field ends the program like any other failure.

@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "desktop/LoggedMessageBoxes.h"
+#include "desktop/StatusGuide.h"
 #include "desktop/machine/Log.h"
 #include "desktop/machine/QtCommandStart.h"
 #include "desktop/machine/QtFiles.h"
@@ -20,6 +21,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -39,6 +41,8 @@ class Desktop {
     /// The windows of the dialogs, shown or not.
     [[nodiscard]] std::vector<DialogWindow*> dialogs();
     [[nodiscard]] const FrmPadrao& form() const { return form_; }
+    /// What opens a file or folder that was written, in place of the desktop's own programs.
+    void openBy(std::function<void(const QString& path)> open);
 
     /// The exit code, once the program has ended: 0, or 1 when a failure ended it.
     [[nodiscard]] std::optional<int> exitCode() const { return exit_code_; }
@@ -47,7 +51,12 @@ class Desktop {
     void keepLog();
     void bridgeWindows();
     [[nodiscard]] QWidget* windowUnderBoxes();
-    void tellOfJob(const QString& path);
+    void guideOperator();
+    void watchItemLists();
+    void showStatus();
+    [[nodiscard]] LabelCount labelCount() const;
+    [[nodiscard]] QString jobTitle() const;
+    [[nodiscard]] QString doubtOf(const Message& message) const;
     bool close();
     void end(int exit_code);
     void endOnFailure(const QString& description);
@@ -66,6 +75,7 @@ class Desktop {
     QtFolderPicker folders_;
     QtCommandStart commands_;
     FrmPadrao form_;
+    StatusGuide guide_{form_};
     WorkbenchWindow window_;
     MarginWindow oculta_margins_{QStringLiteral("FrmMargensOcultaZPL2")};
     MarginWindow caixa_margins_{QStringLiteral("FrmMargensCxZPL45")};

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryFile>
 
 #include <algorithm>
@@ -32,8 +33,7 @@ bool isComplete(const QByteArray& pdf) {
     return pdf.last(std::min(tail, pdf.size())).trimmed().endsWith("%%EOF");
 }
 
-QString freeName(const QDir& folder, const QDateTime& time) {
-    const QString stem = time.toString(u"yyyy-MM-dd HH-mm-ss"_s);
+QString freeName(const QDir& folder, const QString& stem) {
     QString name = stem + u".pdf"_s;
     for (int number = 2; folder.exists(name); ++number) {
         name = u"%1 (%2).pdf"_s.arg(stem).arg(number);
@@ -41,24 +41,40 @@ QString freeName(const QDir& folder, const QDateTime& time) {
     return folder.filePath(name);
 }
 
+// What is written into a draft in the folder, whole.
+QByteArray drafted(const QDir& folder, const std::function<void(const QString& path)>& write) {
+    QTemporaryFile draft(folder.filePath(u".impressao-XXXXXX.pdf"_s));
+    if (!folder.mkpath(u"."_s) || !draft.open()) {
+        throw notWritten(folder.path());
+    }
+    const QString path = draft.fileName();
+    draft.close();
+    write(path);
+    QByteArray pdf = bytesOf(path);
+    if (!isComplete(pdf)) {
+        throw notWritten(folder.path());
+    }
+    return pdf;
+}
+
 } // namespace
 
-QString writePdfFile(const QString& folder, const QDateTime& time,
+QString writePdfFile(const QString& folder, const QString& stem,
                      const std::function<void(const QString& path)>& write) {
     const QDir place(folder);
-    QTemporaryFile draft(place.filePath(u".impressao-XXXXXX.pdf"_s));
-    if (!place.mkpath(u"."_s) || !draft.open()) {
-        throw notWritten(folder);
-    }
-    const QString draft_path = draft.fileName();
-    draft.close();
-    write(draft_path);
-    const QByteArray pdf = bytesOf(draft_path);
-    QString path = freeName(place, time);
-    if (!isComplete(pdf) || !writeWhole(path, pdf)) {
+    const QByteArray pdf = drafted(place, write);
+    QString path = freeName(place, stem);
+    if (!writeWhole(path, pdf)) {
         throw notWritten(folder);
     }
     return path;
+}
+
+void replacePdfFile(const QString& path, const std::function<void(const QString& path)>& write) {
+    const QDir place = QFileInfo(path).absoluteDir();
+    if (!writeWhole(path, drafted(place, write))) {
+        throw notWritten(place.path());
+    }
 }
 
 } // namespace etiquetas

@@ -1,17 +1,20 @@
 #pragma once
 
-#include <QDateTime>
 #include <QString>
 
 #include <functional>
 
 namespace etiquetas {
 
-/// Makes a new PDF file in the folder, which is made where it is missing, named by the time, and
+/// Makes a new PDF file in the folder, which is made where it is missing, named by the stem, and
 /// tells its path. `write` fills a draft beside it; only what is complete takes the name, so that
 /// a fault or a power cut leaves nothing of that name. Fails where the folder or the file can't be
 /// written.
-QString writePdfFile(const QString& folder, const QDateTime& time,
+QString writePdfFile(const QString& folder, const QString& stem,
                      const std::function<void(const QString& path)>& write);
+
+/// Puts a PDF file in place of the one at that path, if there is one; `write` fills a draft beside
+/// it. Fails where the file can't be written; the old one is there then.
+void replacePdfFile(const QString& path, const std::function<void(const QString& path)>& write);
 
 } // namespace etiquetas

@@ -170,6 +170,7 @@ void EventBridge::runAlone(const std::function<void()>& handler) {
         return;
     }
     pushAll();
+    ended_();
 }
 
 void EventBridge::pullAll() {

@@ -47,6 +47,9 @@ class EventBridge final : public QObject {
     /// `focus` must outlive the bridge.
     EventBridge(QtFocus& focus, Failed failed);
 
+    /// What is told when an event has ended and the windows show what it left.
+    void onEventEnded(std::function<void()> told) { ended_ = std::move(told); }
+
     /// Takes a window over, the main window first. It must outlive the bridge.
     void add(BridgedWindow window);
 
@@ -94,6 +97,7 @@ class EventBridge final : public QObject {
 
     QtFocus& focus_;
     Failed failed_;
+    std::function<void()> ended_ = [] {};
     std::deque<BridgedWindow> windows_; // which stay where they are
     BridgedWindow* current_ = nullptr;  // the one that was active last
     FieldRow* active_ = nullptr;        // the field that has had its entering event

@@ -2,9 +2,11 @@
 
 #include "platform/MessageBoxes.h"
 
+#include <QString>
 #include <QWidget>
 
 #include <functional>
+#include <utility>
 
 namespace etiquetas {
 
@@ -19,9 +21,14 @@ class QtMessageBoxes final : public MessageBoxes {
     /// the windows must show what the fields hold by then.
     void standOver(std::function<QWidget*()> window, std::function<void()> before_box);
 
+    /// What tells of a question why its answer may well be No; empty where it knows nothing. It
+    /// stands under the question, and No is the ready answer then.
+    void doubtBy(std::function<QString(const Message&)> doubt) { doubt_ = std::move(doubt); }
+
     Answer show(const Message& message) override;
 
   private:
+    std::function<QString(const Message&)> doubt_ = [](const Message&) { return QString(); };
     std::function<QWidget*()> window_ = [] { return nullptr; };
     std::function<void()> before_box_ = [] {};
 };

@@ -1,13 +1,18 @@
 #include "desktop/windows/WorkbenchWindow.h"
 
+#include "desktop/windows/StatusLine.h"
 #include "ui_WorkbenchWindow.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QFont>
+#include <QRegularExpression>
 #include <QSizePolicy>
 #include <QStatusBar>
+#include <QStyle>
 #include <QVariant>
+
+#include <utility>
 
 namespace etiquetas {
 
@@ -32,9 +37,10 @@ void keepRoom(QWidget& widget, bool keep) {
 
 } // namespace
 
-WorkbenchWindow::WorkbenchWindow() {
+WorkbenchWindow::WorkbenchWindow() : status_(new StatusLine) {
     Ui::WorkbenchWindow form;
     form.setupUi(this);
+    form.status->addWidget(status_, 1); // which owns it
     const QList<QWidget*> widgets = form.centre->findChildren<QWidget*>();
     for (QWidget* const widget : widgets) {
         scaleFont(*widget);
@@ -51,9 +57,16 @@ WorkbenchWindow::WorkbenchWindow() {
     form.txtarquivo->setFocus();
 }
 
-void WorkbenchWindow::tell(const QString& status, const QString& tooltip) {
-    statusBar()->showMessage(status);
-    statusBar()->setToolTip(tooltip);
+void WorkbenchWindow::markSizes(bool not_loaded) {
+    if (std::exchange(is_not_loaded_, not_loaded) == not_loaded) {
+        return;
+    }
+    static const QRegularExpression sizes(QStringLiteral("^(Label7|txtnumero)_\\d+$"));
+    for (QWidget* const widget : findChildren<QWidget*>(sizes)) {
+        widget->setProperty("notLoaded", not_loaded);
+        widget->style()->unpolish(widget);
+        widget->style()->polish(widget);
+    }
 }
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event) {

@@ -6,6 +6,8 @@
 
 namespace etiquetas {
 
+class StatusLine;
+
 /// The window of the Workbench: the widgets of its form, each named after its field. It knows
 /// nothing of what the fields do.
 class WorkbenchWindow final : public QMainWindow {
@@ -14,8 +16,11 @@ class WorkbenchWindow final : public QMainWindow {
   public:
     WorkbenchWindow();
 
-    /// Shows a line at the foot of the window until the next one; the tool tip tells more.
-    void tell(const QString& status, const QString& tooltip);
+    /// The foot of the window.
+    [[nodiscard]] StatusLine& status() { return *status_; }
+    /// Marks the sizes, by their property "notLoaded", as those of another item than the list
+    /// shows.
+    void markSizes(bool not_loaded);
     /// What runs when the window is to be closed; tells whether it closes.
     void onClose(std::function<bool()> closed) { closed_ = std::move(closed); }
     /// What runs when the window gets another size.
@@ -26,6 +31,8 @@ class WorkbenchWindow final : public QMainWindow {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    StatusLine* status_;
+    bool is_not_loaded_ = false;
     std::function<bool()> closed_ = [] { return true; };
     std::function<void()> resized_ = [] {};
 };

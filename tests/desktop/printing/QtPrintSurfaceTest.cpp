@@ -15,7 +15,7 @@ namespace etiquetas::test {
 class QtPrintSurfaceTest : public testing::Test {
   protected:
     QtPrintSurfaceTest() {
-        surface.onJobEnded([this](const EndedJob& job) { ended = job; });
+        surface.delivery().onEnded([this](const EndedJob& job) { ended = job; });
         surface.Width(9000);
         surface.Height(2660);
     }
@@ -122,7 +122,7 @@ TEST_F(QtPrintSurfaceTest, tellsOfItsJobsAndForgetsOneThatCouldNotBeWritten) {
     surface.NewPage();
     print(1, 1, u"B");
     surface.EndDoc();
-    EXPECT_EQ(ended.target, (PrintTarget{u"PDF"_s, true}));
+    EXPECT_EQ(ended.target, (PrintTarget{u"PDF"_s, Device::pdf_file}));
     EXPECT_EQ(ended.pages, 2U);
     EXPECT_TRUE(ended.delivered);
     const QStringList written{QFileInfo(ended.file).fileName()};
