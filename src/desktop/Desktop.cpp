@@ -8,8 +8,8 @@
 #include "workbench/Impressao.h"
 #include "workbench/Inicio.h"
 
+#include <QApplication>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QRegularExpression>
 #include <QUrl>
@@ -29,6 +29,7 @@ Desktop::Desktop(const QString& folder)
     guideOperator();
     messages_.standOver([this] { return windowUnderBoxes(); },
                         [this] {
+                            surface_.delivery().pulse().rest(); // a job may be open
                             bridge_.pushAll();
                             guide_.look();
                             showStatus();
@@ -68,6 +69,8 @@ void Desktop::guideOperator() {
     }
     openBy([](const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
     watchItemLists();
+    watchLongJobs();
+    openPreview();
 }
 
 void Desktop::openBy(std::function<void(const QString& path)> open) {
@@ -87,9 +90,58 @@ void Desktop::watchItemLists() {
         });
     }
     bridge_.onEventEnded([this, lists] {
+        surface_.delivery().pulse().rest();
         guide_.eventEnded(lists.contains(window_.focusWidget()));
         showStatus();
     });
+}
+
+void Desktop::watchLongJobs() {
+    surface_.delivery().pulse().onBeat(
+        [this](const JobProgress& progress) {
+            guide_.jobBegins();
+            showStatus();
+            const bool goes_on = progress_.tell(bridge_.activeWindow(), progress.labels,
+                                                progress.in_all, progress.can_cancel);
+            return goes_on ? JobWish::goes_on : JobWish::ends;
+        },
+        [this] { progress_.rest(); });
+}
+
+void Desktop::openPreview() {
+    surface_.delivery().onPreview([this](const PreviewedJob& job) { preview_.showJob(job); });
+    std::vector<PrintTarget> printers = printers_.targets();
+    std::erase_if(printers, [](const PrintTarget& each) { return each.device == Device::preview; });
+    preview_.offer(std::move(printers));
+    preview_.onSave([this](const PreviewedJob& job, const QString& path) {
+        deliverAgain([&](JobDelivery& delivery) { delivery.save(job, path); });
+    });
+    preview_.onPrint([this](const PreviewedJob& job, const PrintTarget& printer) {
+        deliverAgain([&](JobDelivery& delivery) { delivery.deliverAgain(job, printer); });
+    });
+    // The pages are there to be looked at before the question is answered.
+    messages_.lookBesideBy([this](const Message& message) {
+        return message.text == closing_question && preview_.isVisible();
+    });
+}
+
+// An event like any other, so that nothing runs beside it; or while the closing question stands,
+// when the job before has ended. What becomes of the job is told at the foot of the window.
+void Desktop::deliverAgain(const std::function<void(JobDelivery&)>& deed) {
+    const auto deliver = [&] { skip([&] { deed(surface_.delivery()); }); };
+    bridge_.isRunning() ? deliver() : bridge_.run(deliver);
+    showStatus();
+}
+
+void Desktop::comeToFront() {
+    QWidget* const box = QApplication::activeModalWidget();
+    for (QWidget* const window : {static_cast<QWidget*>(&window_), box}) {
+        if (window != nullptr && window->isVisible()) {
+            window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+            window->raise();
+            window->activateWindow();
+        }
+    }
 }
 
 void Desktop::showStatus() {

@@ -8,9 +8,11 @@
 #include "desktop/machine/QtFiles.h"
 #include "desktop/machine/QtPictures.h"
 #include "desktop/machine/QtPrinters.h"
+#include "desktop/preview/PreviewWindow.h"
 #include "desktop/printing/QtPrintSurface.h"
 #include "desktop/windows/DialogWindow.h"
 #include "desktop/windows/EventBridge.h"
+#include "desktop/windows/ProgressWindow.h"
 #include "desktop/windows/QtFocus.h"
 #include "desktop/windows/QtFolderPicker.h"
 #include "desktop/windows/QtMessageBoxes.h"
@@ -41,6 +43,10 @@ class Desktop {
     /// The windows of the dialogs, shown or not.
     [[nodiscard]] std::vector<DialogWindow*> dialogs();
     [[nodiscard]] const FrmPadrao& form() const { return form_; }
+    [[nodiscard]] PreviewWindow& preview() { return preview_; }
+    [[nodiscard]] ProgressWindow& progress() { return progress_; }
+    /// Brings the window to the front, and a box that stands over it.
+    void comeToFront();
     /// What opens a file or folder that was written, in place of the desktop's own programs.
     void openBy(std::function<void(const QString& path)> open);
 
@@ -53,6 +59,9 @@ class Desktop {
     [[nodiscard]] QWidget* windowUnderBoxes();
     void guideOperator();
     void watchItemLists();
+    void watchLongJobs();
+    void openPreview();
+    void deliverAgain(const std::function<void(JobDelivery&)>& deed);
     void showStatus();
     [[nodiscard]] LabelCount labelCount() const;
     [[nodiscard]] QString jobTitle() const;
@@ -81,6 +90,8 @@ class Desktop {
     MarginWindow caixa_margins_{QStringLiteral("FrmMargensCxZPL45")};
     MarginWindow pack_margins_{QStringLiteral("FrmMargensPackZPL")};
     ParameterWindow parameters_;
+    PreviewWindow preview_;
+    ProgressWindow progress_;
     EventBridge bridge_;
     std::optional<int> exit_code_;
 };

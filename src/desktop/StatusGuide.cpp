@@ -91,6 +91,7 @@ void StatusGuide::look() {
         all_items_ = items();
         lines_ = form_.List1.entries;
         taken_lines_.clear();
+        has_order_ = true;
         if (!has_job_) {
             job_.reset();
         }
@@ -101,6 +102,7 @@ void StatusGuide::eventEnded(bool in_item_list) {
     look();
     noteTakenLine();
     noteLoadedItem(in_item_list);
+    has_order_ = false;
     has_job_ = false;
     is_printing_ = false;
 }
@@ -131,7 +133,7 @@ void StatusGuide::noteLoadedItem(bool in_item_list) {
     }
     const Text& item = (form_.*family()->items).text;
     picked_ = toQString(item);
-    const bool is_loaded = !in_item_list || has_job_ || loaded_.empty();
+    const bool is_loaded = !in_item_list || has_job_ || has_order_;
     if (!is_loaded || isBlank(item)) {
         return;
     }

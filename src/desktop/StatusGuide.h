@@ -62,6 +62,7 @@ class StatusGuide {
     Text loaded_;                 // item
     QString picked_;              // item
     std::optional<EndedJob> job_; // the last one
+    bool has_order_ = false;      // of this event
     bool has_job_ = false;        // of this event
     bool is_printing_ = false;
 };

@@ -44,8 +44,8 @@ void JobDelivery::save(const PreviewedJob& job, const QString& path) {
 
 void JobDelivery::tellRefused(const PrintTarget& target, const Failure& refusal) {
     EndedJob ended{.target = target};
-    pulse_.rest();
     tellUndelivered(ended, refusal);
+    pulse_.rest();
 }
 
 void JobDelivery::bring(PrintJob& job, const QString& title, EndedJob& ended) {

@@ -10,7 +10,6 @@ void JobPulse::step(const JobProgress& progress) {
     const auto now = Time::now();
     if (!due_) {
         due_ = now + first_;
-        cancelled_ = false;
     }
     if (now < *due_) {
         return;
@@ -24,6 +23,7 @@ void JobPulse::step(const JobProgress& progress) {
 }
 
 void JobPulse::rest() {
+    cancelled_ = false;
     if (due_) {
         due_.reset();
         rests_();

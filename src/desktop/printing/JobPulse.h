@@ -39,7 +39,7 @@ class JobPulse {
     void step(const JobProgress& progress);
     /// The job is over, or waits for the operator.
     void rest();
-    /// True where the operator has cancelled the job that was last.
+    /// True from a cancellation until it rests.
     [[nodiscard]] bool isCancelled() const { return cancelled_; }
 
   private:

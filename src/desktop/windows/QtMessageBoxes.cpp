@@ -66,6 +66,9 @@ Answer QtMessageBoxes::show(const Message& message) {
     QPushButton* const no = box.addButton(QMessageBox::No);
     yes->setText(QStringLiteral("&Sim"));
     no->setText(QStringLiteral("&Não"));
+    if (looks_(message)) {
+        box.setWindowModality(Qt::WindowModal);
+    }
     const QString doubt = doubt_(message);
     box.setInformativeText(doubt);
     box.setDefaultButton(doubt.isEmpty() ? yes : no);

@@ -25,9 +25,14 @@ class QtMessageBoxes final : public MessageBoxes {
     /// stands under the question, and No is the ready answer then.
     void doubtBy(std::function<QString(const Message&)> doubt) { doubt_ = std::move(doubt); }
 
+    /// What tells of a question whether the windows that it does not stand over, and that have no
+    /// fields, are of use for its answer: they stay usable then.
+    void lookBesideBy(std::function<bool(const Message&)> looks) { looks_ = std::move(looks); }
+
     Answer show(const Message& message) override;
 
   private:
+    std::function<bool(const Message&)> looks_ = [](const Message&) { return false; };
     std::function<QString(const Message&)> doubt_ = [](const Message&) { return QString(); };
     std::function<QWidget*()> window_ = [] { return nullptr; };
     std::function<void()> before_box_ = [] {};
