@@ -22,7 +22,7 @@ namespace {
 class PaperWorkbench {
   public:
     PaperWorkbench() {
-        surface_.onJobEnded([](const EndedJob& job) { QFile::remove(job.file); });
+        surface_.delivery().onEnded([](const EndedJob& job) { QFile::remove(job.file); });
         form.pctlogo2.picture = pictures_.load(u"" ETIQUETAS_SAMPLES "/lumira.jpg");
         form.Margem_oculta11 = 45;
         form.Mx4045_2 = 40;

@@ -6,13 +6,18 @@
 #include "desktop/printing/PdfFile.h"
 #include "desktop/windows/DialogTable.h"
 #include "desktop/windows/FieldTable.h"
+#include "desktop/windows/StatusLine.h"
+#include "workbench/Impressao.h"
 #include "workbench/Inicio.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QComboBox>
 #include <QDesktopServices>
-#include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QUrl>
+
+#include <utility>
 
 namespace etiquetas {
 
@@ -29,23 +34,30 @@ Desktop::Desktop(const QString& folder)
     }
     bridgeWindows();
     bridge_.onHappening([this] { folder_memory_.forget(); });
-    messages_.standOver([this] { return windowUnderBoxes(); }, [this] { bridge_.pushAll(); },
-                        [this] { folder_memory_.forget(); });
+    guideOperator();
+    messages_.standOver(
+        [this] { return windowUnderBoxes(); },
+        [this] {
+            surface_.delivery().pulse().rest(); // a job may be open
+            bridge_.pushAll();
+            guide_.look();
+            showStatus();
+        },
+        [this] { folder_memory_.forget(); });
     process_.onEnd([this] { end(0); });
     window_.onClose([this] { return close(); });
     window_.onShowFolder([this] { showJobFolder(); });
     window_.onResize([this] { bridge_.run([this] { FrmPadrao_resize(form_); }); });
-    surface_.onJobEnded([this](const EndedJob& job) {
-        logJob(log_, job);
-        if (job.target.built_in) {
-            tellOfJob(job.file);
-        }
-    });
 }
 
 void Desktop::keepLog() {
     logPrinters(log_, printers_);
-    files_.onRead([this](TextView path, std::size_t bytes) { logFileRead(log_, path, bytes); });
+    files_.onRead([this](TextView path, std::size_t bytes) {
+        logFileRead(log_, path, bytes);
+        if (toQString(path).endsWith(QStringLiteral(".txt"), Qt::CaseInsensitive)) {
+            guide_.orderRead(toQString(path));
+        }
+    });
 }
 
 // A box of the start-up brings its window with it.
@@ -55,19 +67,132 @@ QWidget* Desktop::windowUnderBoxes() {
     return &active;
 }
 
-void Desktop::showJobFolder() const {
+void Desktop::showJobFolder() {
     if (!last_job_.isEmpty()) {
-        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(last_job_).path()));
+        open_(QFileInfo(last_job_).absolutePath());
     }
 }
 
-void Desktop::tellOfJob(const QString& path) {
-    const QString folder = pdf_folder.toString() + u'/';
-    last_job_ = path.isEmpty() ? last_job_ : path;
-    window_.tell(path.isEmpty() ? QStringLiteral("Etiquetas não gravadas em ") + folder
-                                : QStringLiteral("Etiquetas gravadas em ") + folder +
-                                      QFileInfo(path).fileName(),
-                 QDir::toNativeSeparators(path));
+void Desktop::guideOperator() {
+    surface_.countBy([this] { return labelCount(); });
+    JobDelivery& delivery = surface_.delivery();
+    delivery.titleBy([this] { return jobTitle(); });
+    delivery.onEnded([this](const EndedJob& job) {
+        logJob(log_, job);
+        last_job_ = job.file.isEmpty() ? last_job_ : job.file;
+        guide_.jobEnded(job);
+    });
+    messages_.doubtBy([this](const Message& message) { return doubtOf(message); });
+    if (!printers_.answered()) {
+        guide_.printersMissing();
+    }
+    openBy([](const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
+    watchItemLists();
+    watchLongJobs();
+    openPreview();
+}
+
+void Desktop::openBy(std::function<void(const QString& path)> open) {
+    open_ = std::move(open);
+    window_.status().onOpen(open_);
+}
+
+// Choosing an item is no event: it is loaded when its list is left.
+void Desktop::watchItemLists() {
+    const QList<QComboBox*> lists =
+        window_.findChildren<QComboBox*>(QRegularExpression(QStringLiteral("^cmb_referencia1?$")));
+    for (QComboBox* const list : lists) {
+        QObject::connect(list, &QComboBox::editTextChanged, list, [this](const QString& item) {
+            if (!bridge_.isRunning()) {
+                guide_.itemPicked(item);
+                showStatus();
+            }
+        });
+    }
+    bridge_.onEventEnded([this, lists] {
+        surface_.delivery().pulse().rest();
+        guide_.eventEnded(lists.contains(window_.focusWidget()));
+        showStatus();
+    });
+}
+
+void Desktop::watchLongJobs() {
+    surface_.delivery().pulse().onBeat(
+        [this](const JobProgress& progress) {
+            guide_.jobBegins();
+            showStatus();
+            const bool goes_on = progress_.tell(bridge_.activeWindow(), progress.labels,
+                                                progress.in_all, progress.can_cancel);
+            return goes_on ? JobWish::goes_on : JobWish::ends;
+        },
+        [this] { progress_.rest(); });
+}
+
+void Desktop::openPreview() {
+    surface_.delivery().onPreview([this](const PreviewedJob& job) { preview_.showJob(job); });
+    std::vector<PrintTarget> printers = printers_.targets();
+    std::erase_if(printers, [](const PrintTarget& each) { return each.device == Device::preview; });
+    preview_.offer(std::move(printers));
+    preview_.onSave([this](const PreviewedJob& job, const QString& path) {
+        deliverAgain([&](JobDelivery& delivery) { delivery.save(job, path); });
+    });
+    preview_.onPrint([this](const PreviewedJob& job, const PrintTarget& printer) {
+        deliverAgain([&](JobDelivery& delivery) { delivery.deliverAgain(job, printer); });
+    });
+    // The pages are there to be looked at before the question is answered.
+    messages_.lookBesideBy([this](const Message& message) {
+        return message.text == closing_question && preview_.isVisible();
+    });
+}
+
+// An event like any other, so that nothing runs beside it; or while the closing question stands,
+// when the job before has ended. What becomes of the job is told at the foot of the window.
+void Desktop::deliverAgain(const std::function<void(JobDelivery&)>& deed) {
+    const auto deliver = [&] { skip([&] { deed(surface_.delivery()); }); };
+    bridge_.isRunning() ? deliver() : bridge_.run(deliver);
+    showStatus();
+}
+
+void Desktop::comeToFront() {
+    QWidget* const box = QApplication::activeModalWidget();
+    for (QWidget* const window : {static_cast<QWidget*>(&window_), box}) {
+        if (window != nullptr && window->isVisible()) {
+            window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+            window->raise();
+            window->activateWindow();
+        }
+    }
+}
+
+void Desktop::showStatus() {
+    window_.status().tell(guide_.text());
+    window_.markSizes(guide_.isNotLoaded());
+}
+
+LabelCount Desktop::labelCount() const {
+    return {.begun = form_.labels_begun, .finished = form_.labels_finished};
+}
+
+// Kind, order and item. A margin dialog is open only during its test print: the Print command
+// closes all of them.
+QString Desktop::jobTitle() const {
+    const bool is_carton = !form_.Frame1.visible;
+    const bool is_test = form_.FrmMargensOcultaZPL2.open || form_.FrmMargensCxZPL45.open ||
+                         form_.FrmMargensPackZPL.open;
+    const Text kind = is_carton ? Text(tipo::corrugado) : form_.cmbtipo.text;
+    const std::vector<Text> item =
+        is_carton ? std::vector{form_.txtcodigo1.text, form_.txtdescricao1.text, form_.txtcor1.text}
+                  : std::vector{form_.txtcodigo.text, form_.txtdescricao.text, form_.txtcor.text};
+    QStringList words{is_test ? QStringLiteral("Teste") : QString(), toQString(kind),
+                      toQString(form_.txtarquivo.text)};
+    for (const Text& word : item) {
+        words << toQString(word);
+    }
+    return words.join(u' ').simplified();
+}
+
+QString Desktop::doubtOf(const Message& message) const {
+    return message.text == closing_question ? guide_.doubt() : QString();
 }
 
 // A window that lacks the widget of a field ends the program like any other failure.

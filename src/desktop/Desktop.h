@@ -2,15 +2,18 @@
 
 #include "base/Failure.h"
 #include "desktop/LoggedMessageBoxes.h"
+#include "desktop/StatusGuide.h"
 #include "desktop/machine/FolderMemory.h"
 #include "desktop/machine/Log.h"
 #include "desktop/machine/QtCommandStart.h"
 #include "desktop/machine/QtFiles.h"
 #include "desktop/machine/QtPictures.h"
 #include "desktop/machine/QtPrinters.h"
+#include "desktop/preview/PreviewWindow.h"
 #include "desktop/printing/QtPrintSurface.h"
 #include "desktop/windows/DialogWindow.h"
 #include "desktop/windows/EventBridge.h"
+#include "desktop/windows/ProgressWindow.h"
 #include "desktop/windows/QtFocus.h"
 #include "desktop/windows/QtFolderPicker.h"
 #include "desktop/windows/QtMessageBoxes.h"
@@ -21,6 +24,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -40,6 +44,12 @@ class Desktop {
     /// The windows of the dialogs, shown or not.
     [[nodiscard]] std::vector<DialogWindow*> dialogs();
     [[nodiscard]] const FrmPadrao& form() const { return form_; }
+    [[nodiscard]] PreviewWindow& preview() { return preview_; }
+    [[nodiscard]] ProgressWindow& progress() { return progress_; }
+    /// Brings the window to the front, and a box that stands over it.
+    void comeToFront();
+    /// What opens a file or folder that was written, in place of the desktop's own programs.
+    void openBy(std::function<void(const QString& path)> open);
 
     /// The exit code, once the program has ended: 0, or 1 when a failure ended it.
     [[nodiscard]] std::optional<int> exitCode() const { return exit_code_; }
@@ -48,8 +58,16 @@ class Desktop {
     void keepLog();
     void bridgeWindows();
     [[nodiscard]] QWidget* windowUnderBoxes();
-    void tellOfJob(const QString& path);
-    void showJobFolder() const;
+    void guideOperator();
+    void watchItemLists();
+    void watchLongJobs();
+    void openPreview();
+    void deliverAgain(const std::function<void(JobDelivery&)>& deed);
+    void showStatus();
+    void showJobFolder();
+    [[nodiscard]] LabelCount labelCount() const;
+    [[nodiscard]] QString jobTitle() const;
+    [[nodiscard]] QString doubtOf(const Message& message) const;
     bool close();
     void end(int exit_code);
     void endOnFailure(const QString& description);
@@ -69,12 +87,16 @@ class Desktop {
     QtFolderPicker folders_;
     QtCommandStart commands_;
     FrmPadrao form_;
+    StatusGuide guide_{form_};
     QString last_job_; // the path of the PDF file that was written last
+    std::function<void(const QString& path)> open_;
     WorkbenchWindow window_;
     MarginWindow oculta_margins_{QStringLiteral("FrmMargensOcultaZPL2")};
     MarginWindow caixa_margins_{QStringLiteral("FrmMargensCxZPL45")};
     MarginWindow pack_margins_{QStringLiteral("FrmMargensPackZPL")};
     ParameterWindow parameters_;
+    PreviewWindow preview_;
+    ProgressWindow progress_;
     EventBridge bridge_;
     std::optional<int> exit_code_;
 };

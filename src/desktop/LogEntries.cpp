@@ -39,10 +39,19 @@ QString nameOf(Answer answer) {
 }
 
 QString targetOf(const EndedJob& job) {
-    if (!job.target.built_in) {
+    switch (job.target.device) {
+    case Device::printer:
         return u"impressora \"%1\""_s.arg(job.target.name);
+    case Device::preview:
+        return u"pré-visualização"_s;
+    case Device::pdf_file:
+        break;
     }
     return job.file.isEmpty() ? u"arquivo PDF"_s : u"arquivo \"%1\""_s.arg(job.file);
+}
+
+QString resultOf(const EndedJob& job) {
+    return job.delivered ? u"entregue"_s : u"não entregue: %1"_s.arg(job.reason);
 }
 
 } // namespace
@@ -73,9 +82,11 @@ void logFileRead(Log& log, TextView path, std::size_t bytes) {
 }
 
 void logJob(Log& log, const EndedJob& job) {
-    const QString result = job.delivered ? u"entregue"_s : u"não entregue"_s;
-    const QString text =
-        u"Impressão: %1, páginas: %2, %3"_s.arg(targetOf(job), QString::number(job.pages), result);
+    QString text = u"Impressão: %1, etiquetas: %2, páginas: %3, %4"_s.arg(
+        targetOf(job), QString::number(job.labels), QString::number(job.pages), resultOf(job));
+    if (job.cut_off > 0) {
+        text += u", etiquetas incompletas: %1"_s.arg(job.cut_off);
+    }
     job.delivered ? log.info(text) : log.warning(text);
 }
 

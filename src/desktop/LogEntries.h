@@ -3,7 +3,7 @@
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "desktop/machine/Log.h"
-#include "desktop/printing/QtPrintSurface.h"
+#include "desktop/printing/JobDelivery.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Printers.h"
 
@@ -24,7 +24,7 @@ void logPrinters(Log& log, const Printers& printers);
 /// A file that was read and its size; the settings, which are read all the time, are left out.
 void logFileRead(Log& log, TextView path, std::size_t bytes);
 
-/// Where a job went, its pages, and whether it was delivered.
+/// Where a job went, its labels and pages, and whether it was delivered.
 void logJob(Log& log, const EndedJob& job);
 
 /// A message box that is about to be shown, and what it was answered.

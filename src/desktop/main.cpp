@@ -1,4 +1,5 @@
 #include "desktop/Desktop.h"
+#include "desktop/SingleInstance.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -13,7 +14,13 @@ int main(int argc, char** argv) {
                      QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QApplication::installTranslator(&toolkit);
     }
-    etiquetas::Desktop desktop(QApplication::applicationDirPath());
+    const QString folder = QApplication::applicationDirPath();
+    etiquetas::SingleInstance instance(folder);
+    if (!instance.isFirst()) {
+        return 0; // the one that is has come to the front
+    }
+    etiquetas::Desktop desktop(folder);
+    instance.onCalled([&desktop] { desktop.comeToFront(); });
     desktop.start();
     return desktop.exitCode() ? *desktop.exitCode() : QApplication::exec();
 }

@@ -57,12 +57,14 @@ class RowDrawer {
 
 void drawLayout(FrmPadrao& form, std::span<const Row> layout, const LabelTexts& label,
                 const Origins& origins) {
+    ++form.labels_begun;
     const RowDrawer drawer(form, label, origins);
     for (const Row& row : layout) {
         if (row.only_if == nullptr || row.only_if(label)) {
             std::visit(drawer, row.item);
         }
     }
+    ++form.labels_finished;
 }
 
 } // namespace etiquetas

@@ -79,7 +79,7 @@ void cmd_printacessorio_click(FrmPadrao& form) {
     if (printLabels(form) == Course::ends) {
         return;
     }
-    if (form.ImpressaoFeita && !confirm(form, u"A Impressão está OK")) {
+    if (form.ImpressaoFeita && !confirm(form, Text(closing_question))) {
         return;
     }
     skip([&] { limpa_objetos(form); });

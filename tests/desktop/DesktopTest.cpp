@@ -28,7 +28,7 @@ class DesktopTest : public testing::Test, protected SampleWindow {
               Varying{u"Etiquetas 0\\.[.\\d]+, Qt "_s + qVersion(), u"Etiquetas 0, Qt"_s},
               Varying{u"Impressoras: .*\"PDF.*"_s, u"Impressoras: \"PDF\""_s},
               Varying{u"fontes: .*"_s, u"fontes: AS QUE FALTAM"_s},
-              Varying{u"impressos/[-\\d ]+\\.pdf"_s, u"impressos/HORA.pdf"_s}}) {
+              Varying{u"impressos/[-\\d]+ [-\\d]+"_s, u"impressos/HORA"_s}}) {
             text.replace(QRegularExpression(varying.pattern, QRegularExpression::MultilineOption),
                          varying.word);
         }
@@ -88,6 +88,71 @@ TEST_F(DesktopTest, removesOldDraftsAndNothingElseAtItsStart) {
     EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
                             [](const auto& line) { return line.find("removido") < line.size(); }),
               2);
+}
+
+// What a closing question says of its job.
+struct Doubt {
+    QString told;
+    QString proposed;
+};
+
+class JobOutcomeTest : public DesktopTest {
+  protected:
+    JobOutcomeTest() {
+        open();
+        load(oculta, "1400050831");
+        desktop->openBy([this](const QString& path) { opened << path; });
+    }
+
+    // Prints, and gives what stands at the question.
+    [[nodiscard]] Doubt print() {
+        Doubt doubt;
+        worker.beforeAnswer([&doubt] {
+            const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            doubt = {box->informativeText(), box->defaultButton()->text()};
+        });
+        worker.click(u"cmd_printacessorio"_s);
+        worker.beforeAnswer([] {});
+        return doubt;
+    }
+
+    QStringList opened;
+};
+
+TEST_F(JobOutcomeTest, isToldUnderTheQuestionWhereTheJobFailed) {
+    const QString place = folder.filePath(u"impressos"_s);
+    QFile in_the_way(place);
+    ASSERT_TRUE(in_the_way.open(QIODevice::WriteOnly));
+    const Doubt failed = print();
+    EXPECT_TRUE(failed.told.contains(place)) << failed.told.toStdString();
+    EXPECT_EQ(failed.proposed, u"&Não"_s);
+    EXPECT_EQ(worker.widget<QLabel>(u"status_happened"_s).property("mood"), u"failed"_s);
+    in_the_way.remove();
+    const Doubt printed = print();
+    EXPECT_EQ(printed.told, QString());
+    EXPECT_EQ(printed.proposed, u"&Sim"_s);
+    worker.widget<QPushButton>(u"open_pdf"_s).click();
+    worker.widget<QPushButton>(u"open_folder"_s).click();
+    EXPECT_EQ(opened, jobs() << place);
+}
+
+TEST_F(JobOutcomeTest, isNothingWhereTheJobIsCancelled) {
+    QString shown;
+    QTimer operator_at_the_bar;
+    QObject::connect(&operator_at_the_bar, &QTimer::timeout, [&] {
+        if (desktop->progress().isVisible()) {
+            shown = desktop->progress().findChild<QLabel*>()->text();
+            desktop->progress().findChild<QPushButton*>()->click();
+        }
+    });
+    operator_at_the_bar.start(1);
+    worker.type(u"txtnumero_0"_s, u"15000"_s);
+    const Doubt doubt = print();
+    EXPECT_TRUE(shown.contains(u"etiquetas"_s));
+    EXPECT_TRUE(doubt.told.startsWith(u"Cancelado: nada foi "_s)) << doubt.told.toStdString();
+    EXPECT_EQ(doubt.proposed, u"&Não"_s);
+    EXPECT_EQ(jobs(), QStringList());
+    EXPECT_FALSE(desktop->progress().isVisible());
 }
 
 TEST_F(DesktopTest, runsWithoutALogWhereItCanNotBeWritten) {

@@ -28,6 +28,7 @@ struct SampleWindow {
     void open() {
         forgetEarlierEnd();
         desktop.emplace(folder.path());
+        desktop->openBy([](const QString&) {}); // no other program starts
         desktop->start();
         worker.sitAt(*desktop);
         worker.takeBoxes(); // those of the start-up: faces that the machine lacks

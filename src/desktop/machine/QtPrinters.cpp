@@ -1,6 +1,7 @@
 #include "desktop/machine/QtPrinters.h"
 
 #include "base/Failure.h"
+#include "desktop/machine/Apart.h"
 #include "desktop/machine/QtText.h"
 
 #include <QPrinterInfo>
@@ -14,25 +15,38 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A queue of the machine may be called "PDF" too; a printer is found by its name, so that the
-// built-in device then needs another one.
-QString builtInName(const QStringList& machine) {
-    const QString name = u"PDF"_s;
-    return machine.contains(name) ? u"PDF (impressos)"_s : name;
+// A queue of the machine may be called like a built-in device; a printer is found by its name, so
+// that the device then needs another one.
+PrintTarget builtIn(Device device, const QString& name, const QString& where,
+                    const QStringList& machine) {
+    return {machine.contains(name) ? u"%1 (%2)"_s.arg(name, where) : name, device};
 }
 
 } // namespace
 
-QtPrinters::QtPrinters()
-    : QtPrinters(QPrinterInfo::availablePrinterNames(), QPrinterInfo::defaultPrinterName()) {}
+QtPrinters::QtPrinters() : QtPrinters(ask()) {}
 
-QtPrinters::QtPrinters(const QStringList& machine, const QString& machine_default) {
-    std::transform(machine.begin(), machine.end(), std::back_inserter(targets_),
+QtPrinters::QtPrinters(const QStringList& machine, const QString& machine_default)
+    : QtPrinters(Machine{machine, machine_default}) {}
+
+QtPrinters::QtPrinters(const Machine& machine) : answered_(machine.answered) {
+    std::transform(machine.names.begin(), machine.names.end(), std::back_inserter(targets_),
                    [](const QString& name) { return PrintTarget{name}; });
-    targets_.push_back({builtInName(machine), true});
-    const auto place = machine.indexOf(machine_default);
-    default_ = place < 0 ? targets_.size() - 1 : static_cast<std::size_t>(place);
+    const auto place = machine.names.indexOf(machine.default_name);
+    default_ = place < 0 ? targets_.size() : static_cast<std::size_t>(place); // else PDF files
     current_ = default_;
+    targets_.push_back(builtIn(Device::pdf_file, u"PDF"_s, u"impressos"_s, machine.names));
+    targets_.push_back(builtIn(Device::preview, u"Pré-visualização"_s, u"janela"_s, machine.names));
+}
+
+QtPrinters::Machine QtPrinters::ask() {
+    const auto machine = apart(
+        [] {
+            return Machine{QPrinterInfo::availablePrinterNames(),
+                           QPrinterInfo::defaultPrinterName()};
+        },
+        Deadline(print_system_patience));
+    return machine.value_or(Machine{.names = {}, .default_name = {}, .answered = false});
 }
 
 std::vector<Text> QtPrinters::names() const {

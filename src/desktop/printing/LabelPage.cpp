@@ -1,5 +1,7 @@
 #include "desktop/printing/LabelPage.h"
 
+#include <numeric>
+
 namespace etiquetas {
 
 namespace {
@@ -35,8 +37,21 @@ QPageSize labelPageSize(int width, int height) {
                      QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
 }
 
-void draw(QPainter& painter, const Mark& mark) {
-    std::visit([&painter](const auto& kind) { drawMark(painter, kind); }, mark);
+// In whole points, as pages are, that is 283 by 113: the label has nothing in the 0.2 mm beyond.
+QPageSize builtInPage() {
+    return QPageSize(QSizeF(100, 40), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+}
+
+std::size_t labelsOn(const LabelPages& pages) {
+    return std::accumulate(
+        pages.begin(), pages.end(), std::size_t{0},
+        [](std::size_t sum, const LabelPage& page) { return sum + page.labels; });
+}
+
+void draw(QPainter& painter, const LabelPage& page) {
+    for (const Mark& mark : page.marks) {
+        std::visit([&painter](const auto& kind) { drawMark(painter, kind); }, mark);
+    }
 }
 
 } // namespace etiquetas

@@ -9,6 +9,7 @@
 #include <QRectF>
 #include <QString>
 
+#include <cstddef>
 #include <optional>
 #include <variant>
 #include <vector>
@@ -45,13 +46,25 @@ using Mark = std::variant<TextMark, BoxMark, ImageMark>;
 struct LabelPage {
     std::optional<QPageSize> size;
     std::vector<Mark> marks;
+    std::size_t labels = 0; // that stand on it whole
 };
+
+/// The pages of a job.
+using LabelPages = std::vector<LabelPage>;
+
+/// The labels of all pages.
+[[nodiscard]] std::size_t labelsOn(const LabelPages& pages);
 
 /// A page of this size in twips (1,440 to the inch), at most 0.01 mm larger and never smaller: a
 /// print system that counts in points would cut a whole one off.
 [[nodiscard]] QPageSize labelPageSize(int width, int height);
 
-/// Draws a mark with a painter whose unit is one millimetre.
-void draw(QPainter& painter, const Mark& mark);
+/// The page of the built-in devices, 100 by 40 mm: the stock of the one label that takes the
+/// printer's own page.
+[[nodiscard]] QPageSize builtInPage();
+
+/// Draws a page with a painter whose unit is one millimetre. All that shows labels, on paper, in a
+/// file or on the screen, draws them by this.
+void draw(QPainter& painter, const LabelPage& page);
 
 } // namespace etiquetas

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -31,32 +32,48 @@ bool isSafe(const QString& path) {
     return pdf.open(QIODevice::ReadWrite) && isComplete(pdf) && forceToDisk(pdf);
 }
 
-QString jobName(const QDateTime& time, int number) {
-    const QString stem = time.toString(u"yyyy-MM-dd HH-mm-ss"_s);
+void fill(const Draft& draft, const QDir& folder,
+          const std::function<void(const QString& path)>& write) {
+    if (!draft.isMade()) {
+        throw notWritten(folder.path());
+    }
+    write(draft.path());
+    if (!isSafe(draft.path())) {
+        throw notWritten(folder.path());
+    }
+}
+
+QString numbered(const QString& stem, int number) {
     return number == 1 ? stem + u".pdf"_s : u"%1 (%2).pdf"_s.arg(stem).arg(number);
 }
 
 } // namespace
 
-QString writePdfFile(const QString& folder, const QDateTime& time,
+QString writePdfFile(const QString& folder, const QString& stem,
                      const std::function<void(const QString& path)>& write) {
     const QDir place(folder);
     place.mkpath(u"."_s);
     const Draft draft(place, pdf_drafts);
-    if (!draft.isMade()) {
-        throw notWritten(folder);
-    }
-    write(draft.path());
-    NewName name = isSafe(draft.path()) ? NewName::taken : NewName::refused;
+    fill(draft, place, write);
+    NewName name = NewName::taken;
     QString path;
     for (int number = 1; name == NewName::taken; ++number) {
-        path = place.filePath(jobName(time, number));
+        path = place.filePath(numbered(stem, number));
         name = draft.take(path);
     }
     if (name == NewName::refused) {
         throw notWritten(folder);
     }
     return path;
+}
+
+void replacePdfFile(const QString& path, const std::function<void(const QString& path)>& write) {
+    const QDir place = QFileInfo(path).absoluteDir();
+    const Draft draft(place, pdf_drafts);
+    fill(draft, place, write);
+    if (!draft.replace(path)) {
+        throw notWritten(place.path());
+    }
 }
 
 } // namespace etiquetas

@@ -1,9 +1,19 @@
 #include "desktop/printing/PrintJob.h"
 
+#include "desktop/machine/Apart.h"
+#include "desktop/machine/PrintSystem.h"
+#include "desktop/printing/JobPulse.h"
 #include "desktop/printing/PrintFailure.h"
 
+#include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrinterInfo>
+
+#include <atomic>
+#include <functional>
+#include <map>
+#include <utility>
 
 namespace etiquetas {
 
@@ -11,78 +21,198 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A printer that the machine lacks would silently become a PDF printer without a file.
-void requirePrinter(const PrintTarget& target) {
-    if (!target.built_in && QPrinterInfo::printerInfo(target.name).isNull()) {
-        throw printFailure(u"A impressora \"%1\" não está instalada."_s.arg(target.name));
+constexpr int built_in_resolution = 1200; // dots to the inch
+
+const QString job_name = u"Etiquetas"_s;
+
+QString noAnswer(const QString& printer) {
+    return u"O sistema de impressão não respondeu em %1 segundos (impressora \"%2\")."_s
+        .arg(print_system_patience.count())
+        .arg(printer);
+}
+
+// Nothing where the machine lacks the printer: it would silently become a PDF printer without a
+// file.
+std::unique_ptr<QPrinter> foundPrinter(const QString& name) {
+    if (QPrinterInfo::printerInfo(name).isNull()) {
+        return nullptr;
     }
-}
-
-// The built-in device has the stock of the one label that takes the printer's own page. In whole
-// points, as pages are, that is 283 by 113: the label has nothing in the 0.2 mm beyond.
-QPageSize builtInPage() {
-    return QPageSize(QSizeF(100, 40), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
-}
-
-std::unique_ptr<QPrinter> makePrinter(const PrintTarget& target) {
-    requirePrinter(target);
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    if (target.built_in) {
-        printer->setOutputFormat(QPrinter::PdfFormat);
-        printer->setPageSize(builtInPage());
-    } else {
-        printer->setOutputFormat(QPrinter::NativeFormat);
-        printer->setPrinterName(target.name);
-    }
-    printer->setDocName(u"Etiquetas"_s);
+    printer->setOutputFormat(QPrinter::NativeFormat);
+    printer->setPrinterName(name);
+    printer->setDocName(job_name);
     printer->setFullPage(true);
     return printer;
 }
 
+// None for a built-in device.
+std::unique_ptr<QPrinter> makePrinter(const PrintTarget& target) {
+    if (target.device != Device::printer) {
+        return nullptr;
+    }
+    auto found =
+        apart([name = target.name] { return foundPrinter(name); }, Deadline(print_system_patience));
+    if (!found) {
+        throw printFailure(noAnswer(target.name));
+    }
+    if (*found == nullptr) {
+        throw printFailure(u"A impressora \"%1\" não está instalada."_s.arg(target.name));
+    }
+    return std::move(*found);
+}
+
+int resolutionOf(const QPrinter* printer) {
+    return printer == nullptr ? built_in_resolution : printer->resolution();
+}
+
+// Orientation stays portrait: a page wider than high is not turned then.
+bool startPage(QPagedPaintDevice& device, const QPageSize& size, QPainter& painter) {
+    device.setPageSize(size);
+    return painter.isActive() ? device.newPage() : painter.begin(&device);
+}
+
+// Tells before each page how many labels have been drawn. False where the device takes no page, or
+// `goes_on` says no.
+bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const QPageSize& own_page,
+               const std::function<bool(std::size_t labels)>& goes_on) {
+    QPainter painter;
+    std::size_t labels = 0;
+    for (const LabelPage& page : pages) {
+        if (!goes_on(labels) || !startPage(device, page.size.value_or(own_page), painter)) {
+            return false;
+        }
+        const double dots = device.logicalDpiX() / millimetres_per_inch;
+        painter.setWorldTransform(QTransform::fromScale(dots, dots));
+        draw(painter, page);
+        labels += page.labels;
+    }
+    return true;
+}
+
+// Fonts keep what they have been drawn with, which must not be shared between threads.
+QFont detached(const QFont& font) {
+    QFont own = font;
+    own.setPixelSize(font.pixelSize() + 1);
+    own.setPixelSize(font.pixelSize());
+    return own;
+}
+
+// One font of its own for each font of the pages, so that it is stored once in the job.
+LabelPages withOwnFonts(LabelPages pages) {
+    std::map<QString, QFont> own;
+    for (LabelPage& page : pages) {
+        for (Mark& mark : page.marks) {
+            if (auto* const text = std::get_if<TextMark>(&mark)) {
+                const auto [known, is_new] = own.try_emplace(text->font.key());
+                known->second = is_new ? detached(text->font) : known->second;
+                text->font = known->second;
+            }
+        }
+    }
+    return pages;
+}
+
+// What the thread that sends a job and the one that waits for it tell each other.
+struct Sending {
+    std::atomic<std::size_t> labels = 0;
+    std::atomic<bool> given_up = false;
+};
+
+// Runs on a thread of its own. Tells why the print system has not taken the job; empty where it
+// has.
+QString sendPages(QPrinter& printer, const LabelPages& pages, Sending& sending) {
+    const auto goes_on = [&sending](std::size_t labels) {
+        sending.labels = labels;
+        return !sending.given_up;
+    };
+    const QPageSize own_page = printer.pageLayout().pageSize();
+    return drawPages(printer, pages, own_page, goes_on) ? printSystemError()
+                                                        : u"o trabalho não pôde ser iniciado"_s;
+}
+
+// Goes on as long as labels are drawn. The last step sends them all at once, which takes its time.
+class Stall {
+  public:
+    explicit Stall(std::size_t pages)
+        : patience_(print_system_patience + std::chrono::milliseconds(pages)) {}
+
+    bool operator()(std::size_t labels) {
+        if (std::exchange(labels_, labels) != labels) {
+            deadline_ = Deadline(patience_);
+        }
+        return deadline_();
+    }
+
+  private:
+    std::chrono::milliseconds patience_;
+    std::size_t labels_ = 0;
+    Deadline deadline_{patience_};
+};
+
 } // namespace
 
 int resolutionOf(const PrintTarget& target) {
-    return makePrinter(target)->resolution();
+    return resolutionOf(makePrinter(target).get());
 }
 
-PrintJob::PrintJob(const PrintTarget& target)
-    : target_(target), printer_(makePrinter(target)),
-      own_page_size_(printer_->pageLayout().pageSize()) {}
+PrintJob::PrintJob(const PrintTarget& target, LabelPages pages)
+    : target_(target), printer_(makePrinter(target)), pages_(std::move(pages)) {}
+
+int PrintJob::resolution() const {
+    return resolutionOf(printer_.get());
+}
 
 LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
     if (page_ended_) {
-        pages_.push_back({size, {}});
+        pages_.push_back({.size = size, .marks = {}});
         page_ended_ = false;
     }
     return pages_.back();
 }
 
-void PrintJob::send() {
-    drawPages();
+void PrintJob::endPage(std::size_t labels) {
+    if (!page_ended_) {
+        pages_.back().labels = labels;
+        page_ended_ = true;
+    }
 }
 
-void PrintJob::write(const QString& path) {
-    printer_->setOutputFileName(path);
-    drawPages();
+void PrintJob::send(JobPulse& pulse) {
+    const auto sending = std::make_shared<Sending>();
+    const std::size_t in_all = labelsOn(pages_);
+    Stall stall(pages_.size());
+    const auto goes_on = [&] {
+        const std::size_t labels = sending->labels;
+        pulse.step({.labels = labels, .in_all = in_all, .can_cancel = false});
+        return stall(labels);
+    };
+    const auto refusal =
+        apart([printer = std::move(printer_), pages = withOwnFonts(std::move(pages_)),
+               sending] { return sendPages(*printer, pages, *sending); },
+              goes_on);
+    if (!refusal) {
+        sending->given_up = true;
+        throw printFailure(noAnswer(target_.name) +
+                           u" As etiquetas ainda podem sair: confira antes de imprimir de novo."_s);
+    }
+    if (!refusal->isEmpty()) {
+        throw printFailure(
+            u"A impressora \"%1\" não aceitou o trabalho: %2."_s.arg(target_.name, *refusal));
+    }
 }
 
-// Orientation stays portrait: a page wider than high is not turned then.
-bool PrintJob::startPage(const LabelPage& page, QPainter& painter) {
-    printer_->setPageSize(page.size.value_or(own_page_size_));
-    return painter.isActive() ? printer_->newPage() : painter.begin(printer_.get());
-}
-
-void PrintJob::drawPages() {
-    QPainter painter;
-    for (const LabelPage& page : pages_) {
-        if (!startPage(page, painter)) {
-            throw printFailure(u"A impressora \"%1\" não aceita o trabalho."_s.arg(target_.name));
-        }
-        const double dots = printer_->resolution() / millimetres_per_inch;
-        painter.setWorldTransform(QTransform::fromScale(dots, dots));
-        for (const Mark& mark : page.marks) {
-            draw(painter, mark);
-        }
+void PrintJob::write(const QString& path, JobPulse& pulse) {
+    QPdfWriter writer(path);
+    writer.setResolution(built_in_resolution);
+    writer.setPageMargins(QMarginsF());
+    writer.setTitle(job_name);
+    const std::size_t in_all = labelsOn(pages_);
+    const auto goes_on = [&pulse, in_all](std::size_t labels) {
+        pulse.step({.labels = labels, .in_all = in_all});
+        return true;
+    };
+    if (!drawPages(writer, pages_, builtInPage(), goes_on)) {
+        throw printFailure(u"O arquivo \"%1\" não pôde ser gravado."_s.arg(path));
     }
 }
 

@@ -4,16 +4,16 @@
 #include "desktop/printing/LabelPage.h"
 
 #include <QPageSize>
-#include <QPainter>
 #include <QPrinter>
 #include <QString>
 
 #include <cstddef>
 #include <memory>
 #include <optional>
-#include <vector>
 
 namespace etiquetas {
+
+class JobPulse;
 
 /// Dots to the inch of a printer; fails where the machine does not have it.
 [[nodiscard]] int resolutionOf(const PrintTarget& target);
@@ -22,33 +22,33 @@ namespace etiquetas {
 /// the print system takes back no job once it has been begun: an unfinished one would be printed.
 class PrintJob {
   public:
-    /// A job for this printer; fails where the machine does not have it.
-    explicit PrintJob(const PrintTarget& target);
+    /// A job for this printer; fails where the machine does not have it, or its print system does
+    /// not answer in time.
+    explicit PrintJob(const PrintTarget& target, LabelPages pages = {});
 
     [[nodiscard]] const PrintTarget& target() const { return target_; }
-    /// Pages that have been begun.
-    [[nodiscard]] std::size_t pageCount() const { return pages_.size(); }
     /// Dots to the inch.
-    [[nodiscard]] int resolution() const { return printer_->resolution(); }
+    [[nodiscard]] int resolution() const;
 
+    /// Pages that have been begun.
+    [[nodiscard]] const LabelPages& pages() const { return pages_; }
     /// The page that is drawn on. The first call and the first one after `endPage` start a new
     /// page of this size.
     [[nodiscard]] LabelPage& page(const std::optional<QPageSize>& size);
-    void endPage() { page_ended_ = true; }
+    /// Ends the page that is drawn on, with the labels that stand on it.
+    void endPage(std::size_t labels);
 
-    /// Sends the job to its printer; fails where the print system does not take it.
-    void send();
-    /// Writes the job of the built-in device into this file; fails where that is not possible.
-    void write(const QString& path);
+    // Each of these is done once, and takes the pages.
+
+    /// Sends the job to its printer; fails where the print system does not take it, or not in time.
+    void send(JobPulse& pulse);
+    /// Writes the job into this file, as PDF; fails where that is not possible.
+    void write(const QString& path, JobPulse& pulse);
 
   private:
-    [[nodiscard]] bool startPage(const LabelPage& page, QPainter& painter);
-    void drawPages();
-
     PrintTarget target_;
-    std::unique_ptr<QPrinter> printer_;
-    QPageSize own_page_size_; // of the printer
-    std::vector<LabelPage> pages_;
+    std::unique_ptr<QPrinter> printer_; // none for the built-in devices
+    LabelPages pages_;
     bool page_ended_ = true;
 };
 

@@ -3,12 +3,8 @@
 #include "base/Failure.h"
 #include "desktop/machine/QtText.h"
 #include "desktop/printing/FontTable.h"
-#include "desktop/printing/PdfFile.h"
 
-#include <QCursor>
 #include <QDir>
-#include <QGuiApplication>
-#include <QScopeGuard>
 
 #include <utility>
 
@@ -36,10 +32,11 @@ QColor colourOf(Pixel pixel) {
 
 } // namespace
 
-QtPrintSurface::QtPrintSurface(const QtPrinters& printers, const QString& folder, Clock clock)
-    : printers_(&printers), folder_(QDir(folder).filePath(pdf_folder.toString())),
-      clock_(std::move(clock)), fonts_(installedFamilies()),
-      faces_(offeredFaces(fonts_.families())) {
+QtPrintSurface::QtPrintSurface(const QtPrinters& printers, const QString& folder,
+                               JobDelivery::Clock clock)
+    : printers_(&printers),
+      delivery_(QDir(folder).filePath(pdf_folder.toString()), std::move(clock)),
+      fonts_(installedFamilies()), faces_(offeredFaces(fonts_.families())) {
     selectFont();
 }
 
@@ -116,23 +113,20 @@ void QtPrintSurface::PaintPicture(const Picture& picture, float x, float y, floa
 }
 
 void QtPrintSurface::NewPage() {
-    if (job_) {
-        job_->endPage();
-    }
+    endPage();
 }
 
 void QtPrintSurface::EndDoc() {
+    endPage();
+    const std::size_t cut_off = takeCutOff();
     // A job that fails is over too: what has reached the printer must not come out twice.
     auto job = std::exchange(job_, std::nullopt);
-    if (!job) {
-        return;
+    const auto refused = std::exchange(refused_, std::nullopt);
+    if (job) {
+        delivery_.deliver(*job, cut_off);
+    } else if (refused) {
+        delivery_.tellRefused(refused->target, refused->reason);
     }
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor); // a long job takes its time here
-    const auto restored = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-    EndedJob ended{.target = job->target(), .pages = job->pageCount()};
-    const auto told = qScopeGuard([this, &ended] { job_ended_(ended); });
-    ended.file = deliver(*job);
-    ended.delivered = true;
 }
 
 std::size_t QtPrintSurface::FontCount() const {
@@ -189,19 +183,42 @@ QRectF QtPrintSurface::place(float x, float y, float width, float height) const 
 }
 
 LabelPage& QtPrintSurface::drawnPage() {
-    if (!job_) {
-        job_.emplace(printers_->current());
+    if (refused_ && refused_->selection == printers_->selections()) {
+        throw refused_->reason;
+    }
+    try {
+        beginJob();
+    } catch (const Failure& failure) {
+        const PrintTarget target = job_ ? job_->target() : printers_->current();
+        refused_ = {.target = target, .selection = printers_->selections(), .reason = failure};
+        job_.reset();
+        throw;
     }
     return job_->page(pageSize());
 }
 
-// Tells the file of the job, if it went into one.
-QString QtPrintSurface::deliver(PrintJob& job) const {
-    if (job.target().built_in) {
-        return writePdfFile(folder_, clock_(), [&job](const QString& path) { job.write(path); });
+// Begins a job with the first drawing, and lets the operator cancel it with any later one.
+void QtPrintSurface::beginJob() {
+    if (!job_) {
+        refused_.reset();
+        job_.emplace(printers_->current());
     }
-    job.send();
-    return {};
+    delivery_.pulse().step({.labels = count_().finished - job_start_.finished});
+}
+
+void QtPrintSurface::endPage() {
+    const std::size_t finished = count_().finished;
+    if (job_) {
+        job_->endPage(finished - page_start_);
+    }
+    page_start_ = finished;
+}
+
+// Labels of the job that ends that were begun and not finished.
+std::size_t QtPrintSurface::takeCutOff() {
+    const LabelCount now = count_();
+    const LabelCount start = std::exchange(job_start_, now);
+    return (now.begun - start.begun) - (now.finished - start.finished);
 }
 
 } // namespace etiquetas

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "base/Failure.h"
 #include "base/Text.h"
 #include "desktop/machine/QtPrinters.h"
+#include "desktop/printing/JobDelivery.h"
 #include "desktop/printing/LabelFont.h"
 #include "desktop/printing/PictureMarks.h"
 #include "desktop/printing/PrintJob.h"
@@ -21,30 +23,28 @@
 
 namespace etiquetas {
 
-/// A job that is over.
-struct EndedJob {
-    PrintTarget target;
-    std::size_t pages = 0;
-    QString file;           // that the built-in device wrote; empty where there is none
-    bool delivered = false; // to the print system or into the file
+/// Labels that have been begun so far, and those of them that were drawn to their end.
+struct LabelCount {
+    std::size_t begun = 0;
+    std::size_t finished = 0;
 };
 
-/// Draws labels on the machine's printers and on the built-in device, with the same code for all.
+/// Draws labels on the machine's printers and on the built-in devices, with the same code for all.
 /// Positions and widths stand in millimetres, and hold at every resolution; pages have whole
 /// points.
 class QtPrintSurface final : public PrintSurface {
   public:
-    using Clock = std::function<QDateTime()>;
-    using JobEnded = std::function<void(const EndedJob& job)>;
     using PrintSurface::PaintPicture;
 
     /// Jobs begin on the current one of `printers`, which must outlive the surface. Those of the
     /// built-in device become files in the folder "impressos" beneath `folder`, named by `clock`.
     QtPrintSurface(const QtPrinters& printers, const QString& folder,
-                   Clock clock = QDateTime::currentDateTime);
+                   JobDelivery::Clock clock = QDateTime::currentDateTime);
 
-    /// What is called after each job, whether it was delivered or not.
-    void onJobEnded(JobEnded told) { job_ended_ = std::move(told); }
+    /// What brings the jobs where they go.
+    [[nodiscard]] JobDelivery& delivery() { return delivery_; }
+    /// What tells how many labels have been drawn; without it no job has any.
+    void countBy(std::function<LabelCount()> labels) { count_ = std::move(labels); }
     /// Forgets the open job, if there is one: nothing of it is printed.
     void dropJob() { job_.reset(); }
 
@@ -88,17 +88,29 @@ class QtPrintSurface final : public PrintSurface {
     [[nodiscard]] std::optional<QPageSize> pageSize() const;
     [[nodiscard]] QRectF place(float x, float y, float width, float height) const;
     [[nodiscard]] LabelPage& drawnPage();
-    [[nodiscard]] QString deliver(PrintJob& job) const;
+    void beginJob();
+    void endPage();
+    [[nodiscard]] std::size_t takeCutOff();
+
+    // A job that could not be begun, or was cancelled while it was drawn: nothing more is drawn of
+    // it until it ends, or another printer is selected.
+    struct RefusedJob {
+        PrintTarget target;
+        std::size_t selection = 0;
+        Failure reason;
+    };
 
     const QtPrinters* printers_;
-    QString folder_;
-    Clock clock_;
-    JobEnded job_ended_ = [](const EndedJob&) {};
+    JobDelivery delivery_;
+    std::function<LabelCount()> count_ = [] { return LabelCount(); };
 
     LabelFontCache fonts_;
     QStringList faces_;
     PictureMarks picture_marks_;
     std::optional<PrintJob> job_;
+    std::optional<RefusedJob> refused_;
+    LabelCount job_start_;                       // what had been drawn before the job
+    std::size_t page_start_ = 0;                 // labels that had been finished before the page
     mutable std::map<QString, int> resolutions_; // dots to the inch, by device name
 
     Text face_;

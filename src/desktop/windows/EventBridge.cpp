@@ -194,6 +194,7 @@ void EventBridge::runAlone(const std::function<void()>& handler) {
         return;
     }
     pushAll();
+    ended_();
 }
 
 void EventBridge::pullAll() {

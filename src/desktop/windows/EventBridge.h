@@ -57,6 +57,8 @@ class EventBridge final : public QObject {
     /// What is called as each happening begins: a key or a click with all the events that it makes,
     /// a change of focus, a handler that is run by itself.
     void onHappening(std::function<void()> begun) { happening_begun_ = std::move(begun); }
+    /// What is told when an event has ended and the windows show what it left.
+    void onEventEnded(std::function<void()> told) { ended_ = std::move(told); }
 
     /// Takes a window over, the main window first. It must outlive the bridge.
     void add(BridgedWindow window);
@@ -109,6 +111,7 @@ class EventBridge final : public QObject {
     Failed failed_;
     std::function<void()> happening_begun_ = [] {};
     bool happening_ = false;
+    std::function<void()> ended_ = [] {};
     std::deque<BridgedWindow> windows_; // which stay where they are
     BridgedWindow* current_ = nullptr;  // the one that was active last
     FieldRow* active_ = nullptr;        // the field that has had its entering event

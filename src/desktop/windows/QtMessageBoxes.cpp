@@ -60,7 +60,12 @@ Answer QtMessageBoxes::show(const Message& message) {
     QPushButton* const no = box.addButton(QMessageBox::No);
     yes->setText(QStringLiteral("&Sim"));
     no->setText(QStringLiteral("&Não"));
-    box.setDefaultButton(yes);
+    if (looks_(message)) {
+        box.setWindowModality(Qt::WindowModal);
+    }
+    const QString doubt = doubt_(message);
+    box.setInformativeText(doubt);
+    box.setDefaultButton(doubt.isEmpty() ? yes : no);
     box.setEscapeButton(no);
     ask(box);
     return box.clickedButton() == yes ? Answer::yes : Answer::no;

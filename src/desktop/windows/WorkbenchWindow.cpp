@@ -2,17 +2,23 @@
 
 #include "desktop/windows/FocusRing.h"
 #include "desktop/windows/KeysWindow.h"
+#include "desktop/windows/StatusLine.h"
 #include "ui_WorkbenchWindow.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFontInfo>
 #include <QIcon>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QShortcut>
 #include <QSizePolicy>
 #include <QStatusBar>
+#include <QStyle>
+#include <QVariant>
 #include <QWindow>
+
+#include <utility>
 
 // A linker leaves out what nothing names; the toolkit wants this one outside all namespaces.
 static void nameIcons() {
@@ -53,9 +59,10 @@ QSize roomOn(const QScreen& screen) {
 
 } // namespace
 
-WorkbenchWindow::WorkbenchWindow() {
+WorkbenchWindow::WorkbenchWindow() : status_(new StatusLine) {
     Ui::WorkbenchWindow form;
     form.setupUi(this);
+    form.status->addWidget(status_, 1); // which owns it
     QApplication::setWindowIcon(programIcon());
     lengths_.emplace(*this);
     middle_ = form.middle;
@@ -132,9 +139,16 @@ void WorkbenchWindow::showBanner(std::optional<bool> is_lumira) {
     brisako_->setStanding(standing(is_lumira == false));
 }
 
-void WorkbenchWindow::tell(const QString& status, const QString& tooltip) {
-    statusBar()->showMessage(status);
-    statusBar()->setToolTip(tooltip);
+void WorkbenchWindow::markSizes(bool not_loaded) {
+    if (std::exchange(is_not_loaded_, not_loaded) == not_loaded) {
+        return;
+    }
+    static const QRegularExpression sizes(QStringLiteral("^(Label7|txtnumero)_\\d+$"));
+    for (QWidget* const widget : findChildren<QWidget*>(sizes)) {
+        widget->setProperty("notLoaded", not_loaded);
+        widget->style()->unpolish(widget);
+        widget->style()->polish(widget);
+    }
 }
 
 bool WorkbenchWindow::event(QEvent* event) {

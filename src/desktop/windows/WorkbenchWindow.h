@@ -14,6 +14,7 @@ class QScrollArea;
 namespace etiquetas {
 
 class PictureLabel;
+class StatusLine;
 
 /// The window of the Workbench: the widgets of its form, each named after its field. It knows
 /// nothing of what the fields do.
@@ -33,8 +34,11 @@ class WorkbenchWindow final : public QMainWindow {
     /// Marks the logo of one of the two banners, LUMIRA or the other one, and fades the other;
     /// nothing is marked where no banner is shown.
     void showBanner(std::optional<bool> is_lumira);
-    /// Shows a line at the foot of the window until the next one; the tool tip tells more.
-    void tell(const QString& status, const QString& tooltip);
+    /// The foot of the window.
+    [[nodiscard]] StatusLine& status() { return *status_; }
+    /// Marks the sizes, by their property "notLoaded", as those of another item than the list
+    /// shows.
+    void markSizes(bool not_loaded);
     /// What runs when the window is to be closed; tells whether it closes.
     void onClose(std::function<bool()> closed) { closed_ = std::move(closed); }
     /// What runs when the window gets another size.
@@ -58,6 +62,7 @@ class WorkbenchWindow final : public QMainWindow {
     void applyUnit();
     void showFocused(QWidget* widget);
 
+    StatusLine* status_;
     TwipSize size_;
     WindowUnit unit_;
     std::optional<FormLengths> lengths_;
@@ -65,6 +70,7 @@ class WorkbenchWindow final : public QMainWindow {
     QScrollArea* middle_ = nullptr;
     PictureLabel* lumira_ = nullptr;
     PictureLabel* brisako_ = nullptr;
+    bool is_not_loaded_ = false;
     std::function<bool()> closed_ = [] { return true; };
     std::function<void()> resized_ = [] {};
     std::function<void()> show_folder_ = [] {};

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 class PdfFileTest : public testing::Test {
   protected:
     QString write(const QByteArray& bytes) {
-        return writePdfFile(written.path(), now, [&bytes](const QString& draft) {
+        return writePdfFile(written.path(), stem, [&bytes](const QString& draft) {
             QFile file(draft);
             ASSERT_TRUE(file.open(QIODevice::WriteOnly));
             file.write(bytes);
@@ -27,10 +27,10 @@ class PdfFileTest : public testing::Test {
 
     QTemporaryDir folder;
     QDir written{folder.filePath(u"impressos"_s)}; // which is not there yet
-    QDateTime now{{2024, 3, 5}, {7, 8, 9}};
+    QString stem = u"2024-03-05 07-08-09"_s;
 };
 
-TEST_F(PdfFileTest, isNamedByTheTimeAndGetsANumberWhereThatNameIsTaken) {
+TEST_F(PdfFileTest, isNamedByItsStemAndGetsANumberWhereThatNameIsTaken) {
     EXPECT_EQ(write("%PDF first %%EOF\n"), written.filePath(u"2024-03-05 07-08-09.pdf"_s));
     EXPECT_EQ(write("%PDF second %%EOF\n"), written.filePath(u"2024-03-05 07-08-09 (2).pdf"_s));
     EXPECT_EQ(write("%PDF third %%EOF\n"), written.filePath(u"2024-03-05 07-08-09 (3).pdf"_s));

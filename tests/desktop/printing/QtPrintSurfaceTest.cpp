@@ -15,7 +15,7 @@ namespace etiquetas::test {
 class QtPrintSurfaceTest : public testing::Test {
   protected:
     QtPrintSurfaceTest() {
-        surface.onJobEnded([this](const EndedJob& job) { ended = job; });
+        surface.delivery().onEnded([this](const EndedJob& job) { ended = job; });
         surface.Width(9000);
         surface.Height(2660);
     }
@@ -122,7 +122,7 @@ TEST_F(QtPrintSurfaceTest, tellsOfItsJobsAndForgetsOneThatCouldNotBeWritten) {
     surface.NewPage();
     print(1, 1, u"B");
     surface.EndDoc();
-    EXPECT_EQ(ended.target, (PrintTarget{u"PDF"_s, true}));
+    EXPECT_EQ(ended.target, (PrintTarget{u"PDF"_s, Device::pdf_file}));
     EXPECT_EQ(ended.pages, 2U);
     EXPECT_TRUE(ended.delivered);
     const QStringList written{QFileInfo(ended.file).fileName()};
@@ -134,6 +134,33 @@ TEST_F(QtPrintSurfaceTest, tellsOfItsJobsAndForgetsOneThatCouldNotBeWritten) {
     EXPECT_FALSE(ended.delivered);
     surface.EndDoc();
     EXPECT_EQ(files(), written);
+}
+
+TEST_F(QtPrintSurfaceTest, countsWholeLabelsAndDropsAJobThatIsCancelledWhileItIsDrawn) {
+    LabelCount count;
+    surface.countBy([&count] { return count; });
+    print(1, 1, u"A");
+    count = {.begun = 2, .finished = 1}; // the second was cut off
+    surface.EndDoc();
+    EXPECT_EQ(ended.labels, 1U);
+    EXPECT_EQ(ended.cut_off, 1U);
+    JobPulse& pulse = surface.delivery().pulse();
+    pulse = JobPulse(JobPulse::Milliseconds(0), JobPulse::Milliseconds(0));
+    std::size_t labels = 0;
+    pulse.onBeat(
+        [&labels](const JobProgress& progress) {
+            labels = progress.labels;
+            return labels < 2 ? JobWish::goes_on : JobWish::ends;
+        },
+        [] {});
+    print(1, 1, u"B");
+    count = {.begun = 5, .finished = 4};
+    EXPECT_THROW(print(1, 1, u"C"), Failure);
+    EXPECT_THROW(print(1, 1, u"D"), Failure);
+    EXPECT_EQ(labels, 3U);
+    surface.EndDoc();
+    EXPECT_TRUE(ended.cancelled);
+    EXPECT_EQ(files().size(), 1) << "that of the first job";
 }
 
 TEST_F(QtPrintSurfaceTest, keepsAnOpenJobOnItsPrinterAndFailsOnOneThatIsNotThere) {

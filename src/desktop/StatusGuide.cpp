@@ -1,0 +1,239 @@
+#include "desktop/StatusGuide.h"
+
+#include "desktop/machine/QtText.h"
+#include "model/FrmPadrao.h"
+#include "orders/OrderFamily.h"
+#include "workbench/LabelKinds.h"
+
+#include <QFileInfo>
+#include <QLocale>
+
+#include <algorithm>
+#include <utility>
+
+namespace etiquetas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString separator = u" · "_s;
+
+QString counted(std::size_t count, const QString& one, const QString& many) {
+    const QLocale brazil(QLocale::Portuguese, QLocale::Brazil);
+    return brazil.toString(static_cast<qulonglong>(count)) + u' ' + (count == 1 ? one : many);
+}
+
+QString sizeOf(const EndedJob& job) {
+    return counted(job.labels, u"etiqueta"_s, u"etiquetas"_s) + u", "_s +
+           counted(job.pages, u"página"_s, u"páginas"_s);
+}
+
+QString deliveredText(const EndedJob& job) {
+    switch (job.target.device) {
+    case Device::printer:
+        return u"Impresso em %1: %2"_s.arg(job.target.name, sizeOf(job));
+    case Device::preview:
+        return u"Na pré-visualização: %1"_s.arg(sizeOf(job));
+    case Device::pdf_file:
+        break;
+    }
+    return u"Gravado em %1: %2"_s.arg(QFileInfo(job.file).fileName(), sizeOf(job));
+}
+
+QString undeliveredText(const EndedJob& job) {
+    const QString deed = job.target.device == Device::pdf_file ? u"gravado"_s : u"impresso"_s;
+    return job.cancelled ? u"Cancelado: nada foi %1"_s.arg(deed)
+                         : u"Não %1: %2"_s.arg(deed, job.reason);
+}
+
+QString cutOffText(const EndedJob& job) {
+    return u"%1: código de barras recusado"_s.arg(
+        counted(job.cut_off, u"etiqueta incompleta"_s, u"etiquetas incompletas"_s));
+}
+
+// Description and colour as in the key of its item, its size where the family has sizes, and its
+// quantity.
+QString lineText(const OrderLine& line, const Text& key, const OrderFamily& family) {
+    static_assert(box_field::size == accessory_field::size);
+    const ItemKey item(key);
+    QString text = toQString(item.description) + u' ' + toQString(item.colour);
+    if (family.name != family_name::corrugated) {
+        text += u" tam. "_s + toQString(line[box_field::size]);
+    }
+    return u"%1 (qte. %2)"_s.arg(text.simplified(), toQString(line[box_field::quantity]).trimmed());
+}
+
+bool holds(const std::vector<Text>& texts, const Text& text) {
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+} // namespace
+
+void StatusGuide::jobEnded(const EndedJob& job) {
+    printers_missing_ = false;
+    is_printing_ = false;
+    has_job_ = true;
+    job_ = job;
+}
+
+const OrderFamily* StatusGuide::family() const {
+    return orderFamily(form_.TipoArquivo);
+}
+
+const std::vector<Text>& StatusGuide::items() const {
+    return (form_.*family()->items).entries;
+}
+
+void StatusGuide::look() {
+    if (const auto read = std::exchange(read_, {}); read && family() != nullptr) {
+        file_ = QFileInfo(*read).fileName();
+        all_items_ = items();
+        lines_ = form_.List1.entries;
+        taken_lines_.clear();
+        has_order_ = true;
+        if (!has_job_) {
+            job_.reset();
+        }
+    }
+}
+
+void StatusGuide::eventEnded(bool in_item_list) {
+    look();
+    noteTakenLine();
+    noteLoadedItem(in_item_list);
+    has_order_ = false;
+    has_job_ = false;
+    is_printing_ = false;
+}
+
+// The Print command takes one line off the order with each item, the one at the position of the
+// item. It tells something only where that belongs to an item that has not been printed.
+void StatusGuide::noteTakenLine() {
+    const auto& left = form_.List1.entries;
+    if (left.size() == lines_.size()) {
+        return;
+    }
+    if (family() != nullptr && left.size() + 1 == lines_.size()) {
+        const auto [taken, next] =
+            std::mismatch(lines_.begin(), lines_.end(), left.begin(), left.end());
+        const OrderLine line(*taken);
+        const auto key = itemKey(line, family()->key);
+        if (key && holds(items(), *key)) {
+            taken_lines_.append(lineText(line, *key, *family()));
+        }
+    }
+    lines_ = left;
+}
+
+// Leaving a list loads its item, unless the list is blank.
+void StatusGuide::noteLoadedItem(bool in_item_list) {
+    if (family() == nullptr) {
+        return;
+    }
+    const Text& item = (form_.*family()->items).text;
+    picked_ = toQString(item);
+    const bool is_loaded = !in_item_list || has_job_ || has_order_;
+    if (!is_loaded || isBlank(item)) {
+        return;
+    }
+    if (std::exchange(loaded_, item) != item && !has_job_) {
+        job_.reset();
+    }
+}
+
+bool StatusGuide::isNotLoaded() const {
+    return !file_.isEmpty() && !picked_.isEmpty() && picked_ != toQString(loaded_);
+}
+
+QString StatusGuide::doubt() const {
+    if (!has_job_) {
+        return u"Nenhuma etiqueta foi impressa."_s;
+    }
+    if (!job_->delivered) {
+        return undeliveredText(*job_);
+    }
+    return job_->cut_off > 0 ? cutOffText(*job_) : QString();
+}
+
+QString StatusGuide::orderText() const {
+    if (labelKind(form_.cmbtipo.text) == nullptr) {
+        return u"Tipo desconhecido: \"%1\". Escolha um tipo da lista."_s.arg(
+            toQString(form_.cmbtipo.text));
+    }
+    if (!form_.cmd_printacessorio.visible) {
+        return u"Pedido \"%1\" não carregado"_s.arg(toQString(form_.txtarquivo.text));
+    }
+    return file_.isEmpty() ? u"Digite o número do pedido e tecle Enter"_s : itemText();
+}
+
+QString StatusGuide::itemText() const {
+    QStringList parts;
+    if (form_.LBLBRISAKO.visible) {
+        parts << toQString(form_.LBLBRISAKO.caption);
+    }
+    const auto place = std::find(all_items_.begin(), all_items_.end(), loaded_);
+    if (all_items_.empty()) {
+        parts << u"sem itens"_s;
+    } else if (items().empty()) {
+        parts << u"todos os itens impressos"_s;
+    } else if (place == all_items_.end()) {
+        parts << u"item digitado"_s;
+    } else {
+        parts << u"item %1 de %2"_s.arg(place - all_items_.begin() + 1).arg(all_items_.size());
+    }
+    if (!items().empty()) {
+        parts << (items().size() == 1 ? u"falta 1"_s : u"faltam %1"_s.arg(items().size()));
+    }
+    return parts.join(separator);
+}
+
+QStringList StatusGuide::happenings() const {
+    QStringList told;
+    if (is_printing_) {
+        return {u"Imprimindo…"_s};
+    }
+    if (isNotLoaded()) {
+        told << u"Item escolhido ainda não carregado: saia da lista com Enter"_s;
+    }
+    if (job_) {
+        told << (job_->delivered ? deliveredText(*job_) : undeliveredText(*job_));
+        if (job_->cut_off > 0) {
+            told << cutOffText(*job_);
+        }
+    }
+    if (!taken_lines_.isEmpty()) {
+        told << (taken_lines_.size() == 1 ? u"linha retirada: "_s : u"linhas retiradas: "_s) +
+                    taken_lines_.join(u"; "_s);
+    }
+    if (printers_missing_) {
+        told << u"O sistema de impressão não respondeu: só há PDF e pré-visualização"_s;
+    }
+    return told;
+}
+
+StatusMood StatusGuide::mood() const {
+    if (is_printing_) {
+        return StatusMood::plain;
+    }
+    if (job_ && !job_->delivered) {
+        return StatusMood::failed;
+    }
+    const bool warns = isNotLoaded() || printers_missing_ || !taken_lines_.isEmpty() ||
+                       (job_ && job_->cut_off > 0);
+    if (warns) {
+        return StatusMood::warning;
+    }
+    return job_ ? StatusMood::done : StatusMood::plain;
+}
+
+StatusText StatusGuide::text() const {
+    const bool shows_file = !file_.isEmpty() && form_.cmd_printacessorio.visible;
+    return {.file = shows_file ? file_ : QString(),
+            .order = orderText(),
+            .happened = happenings().join(separator),
+            .mood = mood(),
+            .pdf = job_ && !is_printing_ ? job_->file : QString()};
+}
+
+} // namespace etiquetas

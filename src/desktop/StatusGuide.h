@@ -1,0 +1,70 @@
+#pragma once
+
+#include "base/Text.h"
+#include "desktop/printing/JobDelivery.h"
+#include "desktop/windows/StatusLine.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace etiquetas {
+
+struct FrmPadrao;
+struct OrderFamily;
+
+/// What the foot of the window tells the operator: the order and item on the window, what became
+/// of the last job, and what the program does without a word. It knows no window: it is told what
+/// happens, and looks at the form. Each word goes with the event that makes it untrue.
+class StatusGuide {
+  public:
+    /// The form must outlive the guide.
+    explicit StatusGuide(const FrmPadrao& form) : form_(form) {}
+
+    /// The print system did not tell its printers at the start.
+    void printersMissing() { printers_missing_ = true; }
+    /// An order file was read; what it holds is on the form when the event has ended.
+    void orderRead(const QString& path) { read_ = path; }
+    void jobBegins() { is_printing_ = true; }
+    void jobEnded(const EndedJob& job);
+    /// The operator chose or typed this item and is still in the list.
+    void itemPicked(const QString& item) { picked_ = item; }
+    /// A message box is about to stand, with the form as it is.
+    void look();
+    /// An event has ended, in an item list or elsewhere.
+    void eventEnded(bool in_item_list);
+
+    [[nodiscard]] StatusText text() const;
+    /// True while the sizes on the window are not those of the item that the list shows.
+    [[nodiscard]] bool isNotLoaded() const;
+    /// What is wrong with the job that the closing question asks about; empty where nothing is.
+    [[nodiscard]] QString doubt() const;
+
+  private:
+    [[nodiscard]] const OrderFamily* family() const;
+    [[nodiscard]] const std::vector<Text>& items() const;
+    void noteTakenLine();
+    void noteLoadedItem(bool in_item_list);
+    [[nodiscard]] QString orderText() const;
+    [[nodiscard]] QString itemText() const;
+    [[nodiscard]] QStringList happenings() const;
+    [[nodiscard]] StatusMood mood() const;
+
+    const FrmPadrao& form_;
+    bool printers_missing_ = false;
+    std::optional<QString> read_; // file, since the last event
+    QString file_;                // of the order on the form
+    std::vector<Text> all_items_; // of the order, as it was read
+    std::vector<Text> lines_;     // of the order, after the last event
+    QStringList taken_lines_;     // of items that have not been printed
+    Text loaded_;                 // item
+    QString picked_;              // item
+    std::optional<EndedJob> job_; // the last one
+    bool has_order_ = false;      // of this event
+    bool has_job_ = false;        // of this event
+    bool is_printing_ = false;
+};
+
+} // namespace etiquetas

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QDialog>
+#include <QString>
+
+#include <cstddef>
+#include <memory>
+
+namespace Ui {
+class ProgressWindow;
+}
+
+namespace etiquetas {
+
+/// Tells how far a long job has come. While it stands, no other window takes keys or clicks.
+class ProgressWindow final : public QDialog {
+    Q_OBJECT
+
+  public:
+    ProgressWindow();
+    ~ProgressWindow() override;
+
+    /// Shows the labels that are done, of how many where that is known (not 0), and lets the
+    /// windows live for a moment. False once the operator has cancelled.
+    [[nodiscard]] bool tell(QWidget& over, std::size_t labels, std::size_t in_all, bool can_cancel);
+    /// Hides the window and forgets that it was cancelled.
+    void rest();
+
+    void reject() override;
+
+  private:
+    void openOver(QWidget& over);
+
+    std::unique_ptr<Ui::ProgressWindow> form_;
+    bool is_cancelled_ = false;
+};
+
+} // namespace etiquetas

@@ -1,0 +1,93 @@
+#include "desktop/StatusGuide.h"
+
+#include "support/PrintWorkbench.h"
+#include "workbench/Campos.h"
+
+namespace etiquetas::test {
+
+using namespace Qt::StringLiterals;
+
+class StatusGuideTest : public testing::Test, protected PrintWorkbench {
+  protected:
+    void loadOrder(TextView kind) {
+        load(kind);
+        guide.orderRead(u"/pedidos/77 FRENTE.TXT"_s);
+        guide.eventEnded(false);
+    }
+
+    void printItem() {
+        print(Answer::yes);
+        guide.jobEnded(printed);
+        guide.eventEnded(false);
+    }
+
+    EndedJob printed{.target = {u"Zebra"_s}, .pages = 2, .labels = 1200, .delivered = true};
+    StatusGuide guide{form};
+};
+
+TEST_F(StatusGuideTest, leadsThroughAnOrderAndTellsWhatWasPrintedUntilAnotherItemIsLoaded) {
+    EXPECT_EQ(guide.text().order, u"Digite o número do pedido e tecle Enter"_s);
+    loadOrder(tipo::oculta);
+    EXPECT_EQ(guide.text(), (StatusText{.file = u"77 FRENTE.TXT"_s,
+                                        .order = u"LUMIRA · item 1 de 2 · faltam 2"_s}));
+    printItem();
+    EXPECT_EQ(guide.text(),
+              (StatusText{.file = u"77 FRENTE.TXT"_s,
+                          .order = u"LUMIRA · item 2 de 2 · falta 1"_s,
+                          .happened = u"Impresso em Zebra: 1.200 etiquetas, 2 páginas"_s,
+                          .mood = StatusMood::done}));
+    printItem();
+    EXPECT_EQ(guide.text().order, u"LUMIRA · todos os itens impressos"_s);
+    loadOrder(tipo::oculta);
+    EXPECT_EQ(guide.text().happened, QString());
+}
+
+TEST_F(StatusGuideTest, tellsTheLineOfAnotherItemThatIsTakenOffTheOrder) {
+    loadOrder(tipo::oculta);
+    form.cmb_referencia.choose(1);
+    cmb_referencia_leave(form);
+    guide.eventEnded(false);
+    EXPECT_EQ(guide.text().order, u"LUMIRA · item 2 de 2 · faltam 2"_s);
+    printItem(); // the second line goes, which is of the first item
+    EXPECT_TRUE(
+        guide.text().happened.endsWith(u" · linha retirada: TENIS CASUAL AZUL tam. 35 (qte. 1)"_s))
+        << guide.text().happened.toStdString();
+    EXPECT_EQ(guide.text().mood, StatusMood::warning);
+}
+
+TEST_F(StatusGuideTest, tellsWhyThePrintCommandIsHidden) {
+    loadOrder(tipo::oculta);
+    load(u"oculta");
+    EXPECT_EQ(guide.text().order, u"Tipo desconhecido: \"oculta\". Escolha um tipo da lista."_s);
+    form.txtarquivo.text = u"99";
+    load(tipo::oculta);
+    EXPECT_EQ(guide.text(), StatusText{.order = u"Pedido \"99\" não carregado"_s});
+}
+
+TEST_F(StatusGuideTest, tellsOfAPickedItemUntilItsListIsLeft) {
+    loadOrder(tipo::oculta);
+    guide.itemPicked(toQString(form.cmb_referencia.entries.at(1)));
+    EXPECT_TRUE(guide.isNotLoaded());
+    form.cmb_referencia.choose(1);
+    guide.eventEnded(true);
+    EXPECT_TRUE(guide.isNotLoaded()) << "a key in the list";
+    EXPECT_EQ(guide.text().mood, StatusMood::warning);
+    guide.eventEnded(false);
+    EXPECT_FALSE(guide.isNotLoaded());
+}
+
+TEST_F(StatusGuideTest, doubtsAJobThatFailedOrWasCutOffOrPrintedNothing) {
+    EXPECT_EQ(guide.doubt(), u"Nenhuma etiqueta foi impressa."_s);
+    guide.jobEnded(printed);
+    EXPECT_EQ(guide.doubt(), QString());
+    printed.cut_off = 1;
+    guide.jobEnded(printed);
+    EXPECT_EQ(guide.doubt(), u"1 etiqueta incompleta: código de barras recusado"_s);
+    guide.jobEnded({.target = {u"Zebra"_s}, .reason = u"sem papel"_s});
+    EXPECT_EQ(guide.doubt(), u"Não impresso: sem papel"_s);
+    EXPECT_EQ(guide.text().mood, StatusMood::failed);
+    guide.eventEnded(false);
+    EXPECT_EQ(guide.doubt(), u"Nenhuma etiqueta foi impressa."_s);
+}
+
+} // namespace etiquetas::test
