@@ -30,7 +30,7 @@ std::string decoded(const Raster& raster, int end_of_bars, const ZXing::DecodeHi
     constexpr int margin = 12; // modules
     constexpr int rows = 8;
     const int width = (raster.width + 2 * margin) * enlarged;
-    std::vector<std::uint8_t> grey(static_cast<std::size_t>(width * rows), 0xFF);
+    std::vector<std::uint8_t> grey(static_cast<std::size_t>(width) * rows, 0xFF);
     for (int y = 0; y < rows; ++y) {
         for (int x = 0; x < raster.width * enlarged; ++x) {
             grey[static_cast<std::size_t>(y * width + margin * enlarged + x)] =

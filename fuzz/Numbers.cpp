@@ -49,9 +49,10 @@ struct Reading {
     unsigned long long bit_value = 0;
 };
 
+const std::string blanks = R"([ \t\r\n\v\f]*)";
+
 std::optional<Reading> bitReading(const std::string& text) {
-    static const std::regex pattern(
-        "[ \\t\\r\\n\\v\\f]*&(?:[Hh]([0-9A-Fa-f]+)|[Oo]([0-7]+))[ \\t\\r\\n\\v\\f]*");
+    static const std::regex pattern(blanks + "&(?:[Hh]([0-9A-Fa-f]+)|[Oo]([0-7]+))" + blanks);
     std::smatch match;
     if (!std::regex_match(text, match, pattern)) {
         return std::nullopt;
@@ -68,12 +69,11 @@ std::optional<Reading> readingOf(TextView text) {
         return bits;
     }
     // The sign or currency that may stand twice in front and twice behind, each once in all.
-    static const std::string blanks = "[ \\t\\r\\n\\v\\f]*";
-    static const std::string mark = "(?:([-+]|R\\$)" + blanks + ")?";
+    static const std::string mark = R"((?:([-+]|R\$))" + blanks + ")?";
     static const std::regex pattern(
-        blanks + "(\\()?" + blanks + mark + mark +
+        blanks + R"((\()?)" + blanks + mark + mark +
         "((?:,[0-9][0-9.]*|[0-9][0-9.]*(?:,[0-9.]*)?)(?:[EeDd][-+]?[0-9]+)?)" + blanks + mark +
-        mark + "(\\))?" + blanks);
+        mark + R"((\))?)" + blanks);
     std::smatch match;
     if (!std::regex_match(bytes, match, pattern) || match[1].matched != match[7].matched) {
         return std::nullopt;
