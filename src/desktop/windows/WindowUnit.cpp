@@ -31,7 +31,10 @@ int WindowUnit::pixels(int reference_pixels) const {
 }
 
 QSize WindowUnit::pixels(TwipSize size) const {
-    const auto length = [this](int twips) { return qFloor(twips / twips_per_pixel * factor_); };
+    constexpr double rounding = 1e-6; // what shrank until it fits may lack that much of a pixel
+    const auto length = [this](int twips) {
+        return qFloor(twips / twips_per_pixel * factor_ + rounding);
+    };
     return {length(size.width), length(size.height)};
 }
 

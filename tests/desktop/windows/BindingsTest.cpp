@@ -35,7 +35,8 @@ static QStringList unboundWidgets(const BridgedWindow& table) {
     }
     QStringList names;
     for (const QWidget* const widget : table.window->findChildren<QWidget*>()) {
-        if (canShowAField(*widget) && !bound.contains(widget->objectName())) {
+        const bool of_form = widget->window() == table.window && canShowAField(*widget);
+        if (of_form && !bound.contains(widget->objectName())) {
             names << widget->objectName();
         }
     }
