@@ -64,8 +64,10 @@ QString lineText(const OrderLine& line, const Text& key, const OrderFamily& fami
     return u"%1 (qte. %2)"_s.arg(text.simplified(), toQString(line[box_field::quantity]).trimmed());
 }
 
-bool holds(const std::vector<Text>& texts, const Text& text) {
-    return std::find(texts.begin(), texts.end(), text) != texts.end();
+std::optional<std::size_t> placeOf(const Text& item, const EntryList& items) {
+    const auto found = std::find(items.begin(), items.end(), item);
+    return found == items.end() ? std::nullopt
+                                : std::optional(static_cast<std::size_t>(found - items.begin()));
 }
 
 } // namespace
@@ -81,7 +83,7 @@ const OrderFamily* StatusGuide::family() const {
     return orderFamily(form_.TipoArquivo);
 }
 
-const std::vector<Text>& StatusGuide::items() const {
+const EntryList& StatusGuide::items() const {
     return (form_.*family()->items).entries;
 }
 
@@ -89,7 +91,8 @@ void StatusGuide::look() {
     if (const auto read = std::exchange(read_, {}); read && family() != nullptr) {
         file_ = QFileInfo(*read).fileName();
         all_items_ = items();
-        lines_ = form_.List1.entries;
+        place_ = placeOf(loaded_, all_items_);
+        lines_ = form_.List1.entries.size();
         taken_lines_.clear();
         has_order_ = true;
         if (!has_job_) {
@@ -110,20 +113,16 @@ void StatusGuide::eventEnded(bool in_item_list) {
 // The Print command takes one line off the order with each item, the one at the position of the
 // item. It tells something only where that belongs to an item that has not been printed.
 void StatusGuide::noteTakenLine() {
-    const auto& left = form_.List1.entries;
-    if (left.size() == lines_.size()) {
+    const LineList& left = form_.List1.entries;
+    const std::size_t before = std::exchange(lines_, left.size());
+    if (family() == nullptr || left.size() + 1 != before) {
         return;
     }
-    if (family() != nullptr && left.size() + 1 == lines_.size()) {
-        const auto [taken, next] =
-            std::mismatch(lines_.begin(), lines_.end(), left.begin(), left.end());
-        const OrderLine line(*taken);
-        const auto key = itemKey(line, family()->key);
-        if (key && holds(items(), *key)) {
-            taken_lines_.append(lineText(line, *key, *family()));
-        }
+    const OrderLine line(left.removedLast());
+    const auto key = itemKey(line, family()->key);
+    if (key && placeOf(*key, items())) {
+        taken_lines_.append(lineText(line, *key, *family()));
     }
-    lines_ = left;
 }
 
 // Leaving a list loads its item, unless the list is blank.
@@ -137,7 +136,11 @@ void StatusGuide::noteLoadedItem(bool in_item_list) {
     if (!is_loaded || isBlank(item)) {
         return;
     }
-    if (std::exchange(loaded_, item) != item && !has_job_) {
+    if (std::exchange(loaded_, item) == item) {
+        return;
+    }
+    place_ = placeOf(loaded_, all_items_);
+    if (!has_job_) {
         job_.reset();
     }
 }
@@ -172,15 +175,14 @@ QString StatusGuide::itemText() const {
     if (form_.LBLBRISAKO.visible) {
         parts << toQString(form_.LBLBRISAKO.caption);
     }
-    const auto place = std::find(all_items_.begin(), all_items_.end(), loaded_);
     if (all_items_.empty()) {
         parts << u"sem itens"_s;
     } else if (items().empty()) {
         parts << u"todos os itens impressos"_s;
-    } else if (place == all_items_.end()) {
+    } else if (!place_) {
         parts << u"item digitado"_s;
     } else {
-        parts << u"item %1 de %2"_s.arg(place - all_items_.begin() + 1).arg(all_items_.size());
+        parts << u"item %1 de %2"_s.arg(*place_ + 1).arg(all_items_.size());
     }
     if (!items().empty()) {
         parts << (items().size() == 1 ? u"falta 1"_s : u"faltam %1"_s.arg(items().size()));

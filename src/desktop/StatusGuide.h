@@ -3,12 +3,13 @@
 #include "base/Text.h"
 #include "desktop/printing/JobDelivery.h"
 #include "desktop/windows/StatusLine.h"
+#include "platform/EntryList.h"
 
 #include <QString>
 #include <QStringList>
 
+#include <cstddef>
 #include <optional>
-#include <vector>
 
 namespace etiquetas {
 
@@ -44,7 +45,7 @@ class StatusGuide {
 
   private:
     [[nodiscard]] const OrderFamily* family() const;
-    [[nodiscard]] const std::vector<Text>& items() const;
+    [[nodiscard]] const EntryList& items() const;
     void noteTakenLine();
     void noteLoadedItem(bool in_item_list);
     [[nodiscard]] QString orderText() const;
@@ -54,16 +55,17 @@ class StatusGuide {
 
     const FrmPadrao& form_;
     bool printers_missing_ = false;
-    std::optional<QString> read_; // file, since the last event
-    QString file_;                // of the order on the form
-    std::vector<Text> all_items_; // of the order, as it was read
-    std::vector<Text> lines_;     // of the order, after the last event
-    QStringList taken_lines_;     // of items that have not been printed
-    Text loaded_;                 // item
-    QString picked_;              // item
-    std::optional<EndedJob> job_; // the last one
-    bool has_order_ = false;      // of this event
-    bool has_job_ = false;        // of this event
+    std::optional<QString> read_;      // file, since the last event
+    QString file_;                     // of the order on the form
+    EntryList all_items_;              // of the order, as it was read
+    std::size_t lines_ = 0;            // of the order, after the last event
+    QStringList taken_lines_;          // of items that have not been printed
+    Text loaded_;                      // item
+    std::optional<std::size_t> place_; // of the loaded item among all, counted from 0
+    QString picked_;                   // item
+    std::optional<EndedJob> job_;      // the last one
+    bool has_order_ = false;           // of this event
+    bool has_job_ = false;             // of this event
     bool is_printing_ = false;
 };
 

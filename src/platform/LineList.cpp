@@ -75,6 +75,7 @@ Text LineList::textAt(std::size_t at) const {
 }
 
 void LineList::removeAt(std::size_t at) {
+    removed_last_ = textAt(at);
     if (!plain_) {
         markGone(lineAt(at));
     }

@@ -67,6 +67,8 @@ class LineList {
     [[nodiscard]] Text textAt(std::size_t at) const;
     /// Takes the line at a position that is there away.
     void removeAt(std::size_t at);
+    /// The line that was taken away last, since the list was emptied last; empty before any was.
+    [[nodiscard]] const Text& removedLast() const { return removed_last_; }
 
     /// Takes lines over that stand one right behind the other in bytes of code page 1252, from the
     /// first byte on, and end where `ends` tells. `index` has been made of them by `how`.
@@ -109,6 +111,7 @@ class LineList {
     mutable std::vector<Index> indexes_;
     mutable std::optional<std::vector<Text>> texts_; // the lines as texts, once one asks for them
     bool plain_ = false;                             // nothing but those texts counts
+    Text removed_last_;
 };
 
 template <typename Look>
