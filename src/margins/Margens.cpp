@@ -144,7 +144,8 @@ const Calibration& calibrationOf(const FrmPadrao& form, const MargensDialog& dia
 
 // The caption of the dialog that shows it, where there is one.
 Text defaultOf(const MargensDialog& dialog, const Margin& margin) {
-    return (dialog.*margin.entry.default_label).caption;
+    return margin.entry.default_label == nullptr ? numberText(margin.default_value)
+                                                 : (dialog.*margin.entry.default_label).caption;
 }
 
 Text& typedIn(MargensDialog& dialog, const Margin& margin) {

@@ -24,7 +24,7 @@ struct MargensDialog {
     Label Label3; // default of `txtmargem2`
     Label Label5{u"Novo Valor"};
     Label Label6; // caption of `txtmargemsuperior`
-    Label top_default;
+    Label top_default; // shown beside `txtmargemsuperior`
     TextField txtmargem1{.text = u"Text1", .caption = u"Coluna 1 (mm)"};
     TextField txtmargem2{.text = u"Text1", .caption = u"Coluna 2 (mm)"};
     TextField txtmargemsuperior;
@@ -36,7 +36,7 @@ struct MargensDialog {
     bool to_front = false;
 };
 
-/// Where a margin is typed in, and the label that shows its default.
+/// Where a margin is typed in, and the label that its default is read from; the top margin has none.
 struct MarginEntry {
     TextField MargensDialog::*field = nullptr;
     Label MargensDialog::*default_label = nullptr;
@@ -45,7 +45,7 @@ struct MarginEntry {
 namespace margin_entry {
 inline constexpr MarginEntry column1{&MargensDialog::txtmargem1, &MargensDialog::Label2};
 inline constexpr MarginEntry column2{&MargensDialog::txtmargem2, &MargensDialog::Label3};
-inline constexpr MarginEntry top{&MargensDialog::txtmargemsuperior, &MargensDialog::top_default};
+inline constexpr MarginEntry top{&MargensDialog::txtmargemsuperior, nullptr};
 } // namespace margin_entry
 
 /// The margins of a stock that was never calibrated, whole millimetres.

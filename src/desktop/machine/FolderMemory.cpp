@@ -41,13 +41,23 @@ void FolderMemory::deleteFile(TextView path) {
     asked_->deleteFile(path);
 }
 
-// New bytes in a file that was there leave every answer as it is.
 void FolderMemory::replace(TextView path, std::string_view bytes) {
+    noteWritten(path);
+    asked_->replace(path, bytes);
+}
+
+// By the machine's own way, which keeps other programs out meanwhile.
+void FolderMemory::update(TextView path, const Change& change) {
+    noteWritten(path);
+    asked_->update(path, change);
+}
+
+// New bytes in a file that was there leave every answer as it is.
+void FolderMemory::noteWritten(TextView path) {
     const auto known = files_.find(path);
     if (known == files_.end() || !known->second) {
         forget();
     }
-    asked_->replace(path, bytes);
 }
 
 } // namespace etiquetas

@@ -30,10 +30,13 @@ class FolderMemory final : public Files {
 
     [[nodiscard]] std::string read(TextView path) const override { return asked_->read(path); }
     void replace(TextView path, std::string_view bytes) override;
+    void update(TextView path, const Change& change) override;
 
   private:
     template <typename Answer>
     using Answers = std::map<Text, Answer, std::less<>>;
+
+    void noteWritten(TextView path);
 
     Files* asked_;
     mutable Answers<bool> files_;
