@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTextDocument>
 
 #include <utility>
 
@@ -24,6 +25,11 @@ QMessageBox::Icon iconOf(Symbol symbol) {
         break;
     }
     return QMessageBox::NoIcon;
+}
+
+// The text under the question has no format of its own: what looks like markup must not act as such.
+QString plain(const QString& text) {
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 
 // The key that brought a box up, and is still held down, must not answer it.
@@ -64,7 +70,7 @@ Answer QtMessageBoxes::show(const Message& message) {
         box.setWindowModality(Qt::WindowModal);
     }
     const QString doubt = doubt_(message);
-    box.setInformativeText(doubt);
+    box.setInformativeText(plain(doubt));
     box.setDefaultButton(doubt.isEmpty() ? yes : no);
     box.setEscapeButton(no);
     ask(box);

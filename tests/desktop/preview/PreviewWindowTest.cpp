@@ -79,6 +79,7 @@ class ShownLabelTest : public PreviewWindowTest, public testing::WithParamInterf
     // What the window shows of a page at a resolution.
     [[nodiscard]] QImage shownPage(int resolution) {
         preview().resize(2000, 2000);
+        QCoreApplication::processEvents();
         auto& view = part<PageView>(u"page_view"_s);
         view.zoomTo(1);
         const double dots = view.pagePlace().width() / sizeOf(preview().job().pages->at(0)).width();
