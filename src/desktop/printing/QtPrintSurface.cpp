@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "desktop/machine/QtText.h"
 #include "desktop/printing/FontTable.h"
+#include "desktop/printing/PdfFile.h"
 
 #include <QDir>
 
