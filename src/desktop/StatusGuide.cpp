@@ -1,8 +1,10 @@
 #include "desktop/StatusGuide.h"
 
+#include "base/CodePage.h"
 #include "desktop/machine/QtText.h"
 #include "model/FrmPadrao.h"
 #include "orders/OrderFamily.h"
+#include "orders/OrderIndex.h"
 #include "workbench/LabelKinds.h"
 
 #include <QFileInfo>
@@ -118,10 +120,14 @@ void StatusGuide::noteTakenLine() {
     if (family() == nullptr || left.size() + 1 != before) {
         return;
     }
-    const OrderLine line(left.removedLast());
-    const auto key = itemKey(line, family()->key);
-    if (key && placeOf(*key, items())) {
-        taken_lines_.append(lineText(line, *key, *family()));
+    const std::string taken = toCodePage1252(left.removedLast());
+    const OrderBytes line(taken);
+    if (!hasKey(line, family()->key)) {
+        return;
+    }
+    const Text key = itemKey(line, family()->key);
+    if (placeOf(key, items())) {
+        taken_lines_.append(lineText(OrderLine(left.removedLast()), key, *family()));
     }
 }
 

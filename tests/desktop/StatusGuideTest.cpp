@@ -1,14 +1,32 @@
 #include "desktop/StatusGuide.h"
 
-#include "support/PrintWorkbench.h"
+#include "support/FakePlatform.h"
 #include "workbench/Campos.h"
+#include "workbench/Impressao.h"
+
+#include <gtest/gtest.h>
 
 namespace etiquetas::test {
 
 using namespace Qt::StringLiterals;
 
-class StatusGuideTest : public testing::Test, protected PrintWorkbench {
+// An order of two items, the first of which has two sizes.
+class StatusGuideTest : public testing::Test, protected LoadedWorkbench {
   protected:
+    StatusGuideTest() {
+        machine.files.bytes[u"/programa/77 FRENTE.TXT"] = fileOf(
+            {u"LUMIRA", lineOf({.quantity = u"1"}), lineOf({.quantity = u"1", .size = u"35"}),
+             lineOf({.quantity = u"1", .colour = u"RUBRO"})});
+        takeLogos();
+        form.CMBPRINTER.choose(1);
+        form.txtarquivo.text = u"77";
+    }
+
+    void load(TextView kind) {
+        form.cmbtipo.type(Text(kind));
+        txtarquivo_leave(form);
+    }
+
     void loadOrder(TextView kind) {
         load(kind);
         guide.orderRead(u"/pedidos/77 FRENTE.TXT"_s);
@@ -16,7 +34,8 @@ class StatusGuideTest : public testing::Test, protected PrintWorkbench {
     }
 
     void printItem() {
-        print(Answer::yes);
+        machine.answer = Answer::yes;
+        cmd_printacessorio_click(form);
         guide.jobEnded(printed);
         guide.eventEnded(false);
     }

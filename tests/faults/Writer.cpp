@@ -47,9 +47,9 @@ void write(const QString& what, const QString& folder, const QString& name) {
         writeKey(folder, name);
         return;
     }
-    const QDateTime second({2024, 3, 5}, {7, 8, 9});
     skip([&] {
-        writePdfFile(QDir(folder).filePath(pdf_folder.toString()), second,
+        writePdfFile(QDir(folder).filePath(pdf_folder.toString()),
+                     QStringLiteral("2024-03-05 07-08-09"),
                      [&](const QString& path) { writeJob(path, name); });
     });
 }
