@@ -1,5 +1,6 @@
 #include "demo/Operator.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
@@ -64,11 +65,15 @@ void Operator::turnTo(const QString& window) {
     settle();
 }
 
+// In the open list, for the arrow keys walk over some lists without changing them.
 void Operator::choose(const QString& list, int position) {
     click(list);
     auto& box = widget<QComboBox>(list);
-    while (box.currentIndex() != position && box.count() > position) {
-        press(box.currentIndex() < position ? Qt::Key_Down : Qt::Key_Up);
+    if (box.count() > position) {
+        box.showPopup();
+        box.view()->setCurrentIndex(box.model()->index(position, box.modelColumn()));
+        QTest::keyClick(box.view(), Qt::Key_Return);
+        settle();
     }
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/StatusGuide.h"
 
+#include "desktop/machine/QtText.h"
 #include "support/FakePlatform.h"
 #include "workbench/Campos.h"
 #include "workbench/Impressao.h"

@@ -54,8 +54,7 @@ void FolderMemory::update(TextView path, const Change& change) {
 
 // New bytes in a file that was there leave every answer as it is.
 void FolderMemory::noteWritten(TextView path) {
-    const auto known = files_.find(path);
-    if (known == files_.end() || !known->second) {
+    if (!fileExists(path)) {
         forget();
     }
 }

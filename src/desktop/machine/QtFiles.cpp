@@ -6,14 +6,13 @@
 
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QThread>
 
-#include <algorithm>
 #include <filesystem>
-#include <iterator>
 #include <system_error>
 
 namespace etiquetas {
@@ -85,10 +84,14 @@ std::vector<Text> QtFiles::filesIn(TextView folder) const {
     if (isBlank(folder)) {
         return {}; // it would stand for the folder that the program was started in
     }
-    const QStringList found = QDir(toQString(folder)).entryList(QDir::Files, QDir::Unsorted);
     std::vector<Text> names;
-    names.reserve(static_cast<std::size_t>(found.size()));
-    std::transform(found.begin(), found.end(), std::back_inserter(names), toText);
+    QDirIterator found(toQString(folder), QDir::Files);
+    while (found.hasNext()) {
+        const QFileInfo file = found.nextFileInfo();
+        if (file.isFile()) { // a link to a pipe or a device is none
+            names.push_back(toText(file.fileName()));
+        }
+    }
     return names;
 }
 

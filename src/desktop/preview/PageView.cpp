@@ -114,12 +114,13 @@ QSizeF PageView::pageSize() const {
     return page_ != nullptr ? sizeOf(*page_) : QSizeF(1, 1);
 }
 
-// In the middle of the view where there is room for it.
+// In the middle of the view where there is room for it, on a whole pixel, so that what is drawn
+// stays sharp.
 QRectF PageView::pagePlace() const {
     const QSizeF size = pageSize() * scale_;
     const auto start = [](int view, double page, int scrolled) {
         const double room = view - ruler - page - 2 * border;
-        return ruler + border + (room > 0 ? room / 2 : -scrolled);
+        return ruler + border + (room > 0 ? std::floor(room / 2) : -scrolled);
     };
     return {QPointF(start(viewport()->width(), size.width(), horizontalScrollBar()->value()),
                     start(viewport()->height(), size.height(), verticalScrollBar()->value())),

@@ -20,9 +20,14 @@ struct CountingFiles : FakeFiles {
         ++asked["list " + utf8(folder)];
         return FakeFiles::filesIn(folder);
     }
+    bool fileExists(TextView path) const override {
+        ++asked["file " + utf8(path)];
+        return bytes.contains(Text(path));
+    }
+    std::string read(TextView path) const override { return bytes.find(path)->second; }
     void update(TextView path, const Change& change) override {
         ++asked["update " + utf8(path)];
-        FakeFiles::update(path, change);
+        replace(path, change(read(path)));
     }
 };
 
@@ -53,6 +58,10 @@ TEST_F(FolderMemoryTest, listsTheOrderFolderOnceForAKeyThatLoadsTheOrderTwice) {
     const std::map<std::string, int> told{{"folder /programa", 1},
                                           {"list /programa", 1},
                                           {"list /programa/imagens", 1},
+                                          {"file /programa/Varesko.ini", 1},
+                                          {"file /programa/VARESKO.INI", 1},
+                                          {"file /programa/77 frente.txt", 1},
+                                          {"file /programa/imagens/3104527.jpg", 1},
                                           {"update /programa/VARESKO.INI", 2}};
     EXPECT_EQ(files.asked, told);
 }

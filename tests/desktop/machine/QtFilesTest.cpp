@@ -64,6 +64,8 @@ TEST_F(QtFilesTest, namesTheFileOfAFailure) {
 TEST_F(QtFilesTest, readsNeitherAPipeNorAFileWithoutEnd) {
     ASSERT_EQ(mkfifo(name.toUtf8(), S_IRUSR | S_IWUSR), 0);
     expectFailure(failure_number::file_access, path, [&] { static_cast<void>(files.read(path)); });
+    ASSERT_TRUE(QFile::link(name, name + u".link"_s));
+    EXPECT_TRUE(files.filesIn(files.programFolder()).empty());
     ASSERT_TRUE(QFile::remove(name));
     QFile large(name);
     ASSERT_TRUE(large.open(QIODevice::WriteOnly));

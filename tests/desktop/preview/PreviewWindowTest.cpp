@@ -97,11 +97,14 @@ TEST_P(ShownLabelTest, isAsTheFileHasItAndAsTheHeadBurnsIt) {
     const QString pdf = folder.filePath(u"pages.pdf"_s);
     JobPulse pulse;
     PrintJob({.name = pdf, .device = Device::pdf_file}, pages).write(pdf, pulse);
-    EXPECT_LT(meanDistance(shownPage(150), renderedPage(pdf, 1, 150, Tones::colours)), 5);
+    // The edges of letters differ from renderer to renderer; a place that is off by half a pixel
+    // makes 13 and more of a page of one strip.
+    constexpr double edges = 9;
+    EXPECT_LT(meanDistance(shownPage(150), renderedPage(pdf, 1, 150, Tones::colours)), edges);
     for (const int resolution : {203, 300, 600}) {
         const QImage burnt = headImage(pages.front(), resolution);
         const QImage file = renderedPage(pdf, 1, resolution, Tones::black_and_white);
-        EXPECT_LT(meanDistance(burnt, file), 5) << resolution;
+        EXPECT_LT(meanDistance(burnt, file), edges) << resolution;
         EXPECT_EQ(symbolsIn(burnt), symbolsIn(file)) << resolution;
     }
 }
