@@ -35,15 +35,14 @@ Desktop::Desktop(const QString& folder)
     bridgeWindows();
     bridge_.onHappening([this] { folder_memory_.forget(); });
     guideOperator();
-    messages_.standOver(
-        [this] { return windowUnderBoxes(); },
-        [this] {
-            surface_.delivery().pulse().rest(); // a job may be open
-            bridge_.pushAll();
-            guide_.look();
-            showStatus();
-        },
-        [this] { folder_memory_.forget(); });
+    messages_.standOver([this] { return windowUnderBoxes(); },
+                        [this] {
+                            surface_.delivery().pulse().rest(); // a job may be open
+                            bridge_.pushAll();
+                            guide_.look();
+                            showStatus();
+                        },
+                        [this] { folder_memory_.forget(); });
     process_.onEnd([this] { end(0); });
     window_.onClose([this] { return close(); });
     window_.onShowFolder([this] { showJobFolder(); });

@@ -23,7 +23,7 @@ struct MargensDialog {
     Label Label2; // default of `txtmargem1`
     Label Label3; // default of `txtmargem2`
     Label Label5{u"Novo Valor"};
-    Label Label6; // caption of `txtmargemsuperior`
+    Label Label6;      // caption of `txtmargemsuperior`
     Label top_default; // shown beside `txtmargemsuperior`
     TextField txtmargem1{.text = u"Text1", .caption = u"Coluna 1 (mm)"};
     TextField txtmargem2{.text = u"Text1", .caption = u"Coluna 2 (mm)"};
@@ -36,7 +36,8 @@ struct MargensDialog {
     bool to_front = false;
 };
 
-/// Where a margin is typed in, and the label that its default is read from; the top margin has none.
+/// Where a margin is typed in, and the label that its default is read from; the top margin has
+/// none.
 struct MarginEntry {
     TextField MargensDialog::*field = nullptr;
     Label MargensDialog::*default_label = nullptr;

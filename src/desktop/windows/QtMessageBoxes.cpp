@@ -27,7 +27,8 @@ QMessageBox::Icon iconOf(Symbol symbol) {
     return QMessageBox::NoIcon;
 }
 
-// The text under the question has no format of its own: what looks like markup must not act as such.
+// The text under the question has no format of its own: what looks like markup must not act as
+// such.
 QString plain(const QString& text) {
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
