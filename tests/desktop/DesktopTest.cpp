@@ -126,8 +126,7 @@ TEST_F(JobOutcomeTest, isToldUnderTheQuestionWhereTheJobFailed) {
     const Doubt failed = print();
     EXPECT_TRUE(failed.told.contains(place)) << failed.told.toStdString();
     EXPECT_EQ(failed.proposed, u"&Não"_s);
-    EXPECT_EQ(worker.widget<QLabel>(u"status_happened"_s).property("mood").toString(),
-              u"failed"_s);
+    EXPECT_EQ(worker.widget<QLabel>(u"status_happened"_s).property("mood").toString(), u"failed"_s);
     in_the_way.remove();
     const Doubt printed = print();
     EXPECT_EQ(printed.told, QString());
