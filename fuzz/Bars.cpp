@@ -33,7 +33,8 @@ std::string decoded(const Raster& raster, int end_of_bars, const ZXing::DecodeHi
     std::vector<std::uint8_t> grey(static_cast<std::size_t>(width) * rows, 0xFF);
     for (int y = 0; y < rows; ++y) {
         for (int x = 0; x < raster.width * enlarged; ++x) {
-            grey[static_cast<std::size_t>(y * width + margin * enlarged + x)] =
+            const int pixel = y * width + margin * enlarged + x;
+            grey[static_cast<std::size_t>(pixel)] =
                 static_cast<std::uint8_t>(raster.at(x / enlarged, end_of_bars - rows + y));
         }
     }

@@ -22,7 +22,7 @@ void drawModules(PictureBox& pic, TextView modules, int x, int top, int height) 
     std::vector<Pixel> colours(modules.size());
     std::transform(modules.begin(), modules.end(), colours.begin(),
                    [](char16_t module) { return module == u'1' ? black_pixel : white_pixel; });
-    pic.Columns(x, top, height, colours);
+    pic.columns(x, top, height, colours);
 }
 
 void printAt(PictureBox& pic, double x, double y, TextView text) {

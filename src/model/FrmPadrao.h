@@ -174,12 +174,13 @@ struct FrmPadrao {
     /// Family of the loaded order: "A" box, "B" corrugated, "C" accessory.
     Text TipoArquivo;
     bool ImpressaoFeita = false;
+    /// True while `pctimage` holds the photograph of the item.
+    bool tem_imagem = false;
+
     /// Labels that have been begun since the start, and those of them that were drawn to their end.
     /// They differ where a barcode was refused in the middle of a label.
     std::size_t labels_begun = 0;
     std::size_t labels_finished = 0;
-    /// True while `pctimage` holds the photograph of the item.
-    bool tem_imagem = false;
 };
 
 } // namespace etiquetas

@@ -66,7 +66,7 @@ void PictureBox::Line(int x1, int y1, int x2, int y2, Pixel colour) {
     }
 }
 
-void PictureBox::Columns(int x, int top, int height, std::span<const Pixel> colours) {
+void PictureBox::columns(int x, int top, int height, std::span<const Pixel> colours) {
     if (!keeps_drawing_) {
         return;
     }

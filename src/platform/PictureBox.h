@@ -47,7 +47,7 @@ class PictureBox {
     void Line(int x1, int y1, int x2, int y2, Pixel colour);
     /// Upright lines side by side, each one pixel wide, from row `top` down over `height` rows: the
     /// first of these colours in column `x`. A height below 0 draws upwards, row `top` included.
-    void Columns(int x, int top, int height, std::span<const Pixel> colours);
+    void columns(int x, int top, int height, std::span<const Pixel> colours);
     /// The text with its top-left corner at (`CurrentX`, `CurrentY`).
     void Print(TextView text);
     /// Size of a text in pixels.

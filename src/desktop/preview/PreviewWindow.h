@@ -23,6 +23,7 @@ namespace etiquetas {
 /// come out.
 class PreviewWindow final : public QWidget {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(PreviewWindow)
 
   public:
     PreviewWindow();

@@ -15,6 +15,7 @@ namespace etiquetas {
 /// Tells how far a long job has come. While it stands, no other window takes keys or clicks.
 class ProgressWindow final : public QDialog {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ProgressWindow)
 
   public:
     ProgressWindow();
