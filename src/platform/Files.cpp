@@ -17,8 +17,8 @@ Text joined(const Files& files, TextView folder, TextView name) {
 }
 
 bool isPlainName(const Files& files, TextView name) {
-    return name.find_first_of(Text(u"/\\") + files.separator()) == TextView::npos &&
-           name.find(u"..") == TextView::npos;
+    return name.find_first_of(u"/\\") == TextView::npos &&
+           name.find(files.separator()) == TextView::npos && name.find(u"..") == TextView::npos;
 }
 
 std::optional<Text> findFile(const Files& files, TextView folder, TextView name) {

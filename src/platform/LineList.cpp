@@ -12,7 +12,7 @@ constexpr std::size_t lines_in_block = 1024;
 
 } // namespace
 
-LineList::LineList(std::vector<Text> lines) {
+LineList::LineList(const std::vector<Text>& lines) {
     for (const Text& line : lines) {
         push_back(line);
     }

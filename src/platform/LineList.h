@@ -39,7 +39,7 @@ class LineList {
 
     LineList() = default;
     LineList(std::initializer_list<Text> lines) : LineList(std::vector<Text>(lines)) {}
-    LineList(std::vector<Text> lines);
+    LineList(const std::vector<Text>& lines);
 
     operator const std::vector<Text>&() const { return texts(); }
 

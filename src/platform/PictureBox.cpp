@@ -81,7 +81,7 @@ void PictureBox::columns(int x, int top, int height, std::span<const Pixel> colo
     }
     const auto row =
         colours.subspan(static_cast<std::size_t>(left - x), static_cast<std::size_t>(right - left));
-    for (int y = first; y < end; ++y) {
+    for (std::ptrdiff_t y = first; y < end; ++y) {
         std::copy(row.begin(), row.end(), raster.pixels.begin() + y * raster.width + left);
     }
 }

@@ -67,22 +67,22 @@ TEST_F(FolderMemoryTest, listsTheOrderFolderOnceForAKeyThatLoadsTheOrderTwice) {
 }
 
 TEST_F(FolderMemoryTest, asksAnewOnceItForgetsOrChangesTheFolder) {
-    const auto isThere = [this] {
+    const auto is_there = [this] {
         EXPECT_EQ(memory.filesIn(u"/p").size(), memory.fileExists(u"/p/a") ? 1U : 0U);
         return memory.fileExists(u"/p/a");
     };
-    EXPECT_FALSE(isThere());
+    EXPECT_FALSE(is_there());
     memory.replace(u"/p/a", "1");
-    EXPECT_TRUE(isThere());
+    EXPECT_TRUE(is_there());
     memory.replace(u"/p/a", "2");
     EXPECT_EQ(files.asked["file /p/a"], 2) << "the file was there";
     EXPECT_EQ(memory.read(u"/p/a"), "2");
     memory.deleteFile(u"/p/a");
-    EXPECT_FALSE(isThere());
+    EXPECT_FALSE(is_there());
     files.bytes[u"/p/a"] = "by another program";
-    EXPECT_FALSE(isThere());
+    EXPECT_FALSE(is_there());
     memory.forget();
-    EXPECT_TRUE(isThere());
+    EXPECT_TRUE(is_there());
     static_cast<void>(memory.folderExists(u"/p"));
     memory.makeFolder(u"/p/imagens");
     static_cast<void>(memory.folderExists(u"/p"));

@@ -15,7 +15,7 @@ TEST(EntryModelTest, takesAnEntryAwayAsOneRowAndShowsAllOthersAsTheyAre) {
     EntryModel model;
     QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
     QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
-    const auto expectShown = [&](int removed_rows, int resets) {
+    const auto expect_shown = [&](int removed_rows, int resets) {
         model.show(entries);
         EXPECT_EQ(removed.size(), removed_rows);
         EXPECT_EQ(reset.size(), resets);
@@ -30,19 +30,19 @@ TEST(EntryModelTest, takesAnEntryAwayAsOneRowAndShowsAllOthersAsTheyAre) {
     for (char16_t name = u'a'; name < u'z'; ++name) {
         entries.emplace_back(3, name);
     }
-    expectShown(0, 1);
+    expect_shown(0, 1);
     while (entries.size() > 3) {
         entries.removeAt(random() % entries.size());
-        expectShown(1, 0);
+        expect_shown(1, 0);
     }
-    expectShown(0, 0);
+    expect_shown(0, 0);
     entries.front() = Text(std::as_const(entries).front()); // might be another one
-    expectShown(0, 0);
+    expect_shown(0, 0);
     entries.removeAt(0);
     entries.removeAt(0);
-    expectShown(0, 1);
+    expect_shown(0, 1);
     entries = {u"A", u"B"};
-    expectShown(0, 1);
+    expect_shown(0, 1);
 }
 
 } // namespace etiquetas::test
