@@ -135,7 +135,7 @@ class GeometryTest : public SmallOrderTest, public testing::WithParamInterface<L
         QApplication::setFont(QFont(QString::fromLatin1(face), points));
         QApplication::setPalette(dark ? darkPalette() : QPalette());
     }
-    ~GeometryTest() override {
+    void TearDown() override {
         desktop.reset();
         QApplication::setFont(font_before);
         QApplication::setPalette(QPalette());
