@@ -66,7 +66,7 @@ void Operator::turnTo(const QString& window) {
 }
 
 // In the open list, for the arrow keys walk over some lists without changing them.
-void Operator::choose(const QString& list, int position) {
+void Operator::choose(const QString& list, int position) const {
     click(list);
     auto& box = widget<QComboBox>(list);
     if (box.count() > position) {

@@ -35,7 +35,7 @@ class Operator {
     void turnTo(const QString& window);
 
     /// Chooses from a list by its arrow keys, after a click into it.
-    void choose(const QString& list, int position);
+    void choose(const QString& list, int position) const;
     /// Clicks into a field, replaces its text by typing, and stays there.
     void type(const QString& field, const QString& text);
     /// Presses one key where the focus is.
