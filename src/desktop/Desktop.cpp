@@ -1,7 +1,7 @@
 #include "desktop/Desktop.h"
 
-#include "desktop/LogEntries.h"
 #include "desktop/machine/QtText.h"
+#include "desktop/records/LogEntries.h"
 #include "desktop/windows/DialogTable.h"
 #include "desktop/windows/FieldTable.h"
 #include "workbench/Inicio.h"
@@ -15,8 +15,9 @@ namespace etiquetas {
 Desktop::Desktop(const QString& folder)
     : log_(startedLog(folder)),
       skipped_([this](const Failure& failure) { logSkipped(log_, failure); }), files_(folder),
-      surface_(printers_, folder), form_({printers_, surface_, logged_messages_, pictures_, files_,
-                                          focus_, pointer_, process_, folders_, commands_}),
+      surface_(printers_, folder), history_(folder),
+      form_({printers_, surface_, recorded_messages_, pictures_, files_, focus_, pointer_, process_,
+             folders_, commands_}),
       bridge_(focus_, [this](const QString& description) { endOnFailure(description); }) {
     keepLog();
     bridgeWindows();
@@ -26,6 +27,7 @@ Desktop::Desktop(const QString& folder)
     window_.onResize([this] { bridge_.run([this] { FrmPadrao_resize(form_); }); });
     surface_.onJobEnded([this](const EndedJob& job) {
         logJob(log_, job);
+        recorded_messages_.takeJob(job);
         if (job.target.built_in) {
             tellOfJob(job.file);
         }

@@ -1,13 +1,15 @@
 #pragma once
 
 #include "base/Failure.h"
-#include "desktop/LoggedMessageBoxes.h"
 #include "desktop/machine/Log.h"
 #include "desktop/machine/QtCommandStart.h"
 #include "desktop/machine/QtFiles.h"
 #include "desktop/machine/QtPictures.h"
 #include "desktop/machine/QtPrinters.h"
 #include "desktop/printing/QtPrintSurface.h"
+#include "desktop/records/JobHistory.h"
+#include "desktop/records/JobRecorder.h"
+#include "desktop/records/LoggedMessageBoxes.h"
 #include "desktop/windows/DialogWindow.h"
 #include "desktop/windows/EventBridge.h"
 #include "desktop/windows/QtFocus.h"
@@ -60,6 +62,8 @@ class Desktop {
     QtPrintSurface surface_;
     QtMessageBoxes messages_;
     LoggedMessageBoxes logged_messages_{messages_, log_};
+    JobHistory history_;
+    JobRecorder recorded_messages_{logged_messages_, history_, form_};
     QtFocus focus_;
     QtPointer pointer_;
     QtProcess process_;

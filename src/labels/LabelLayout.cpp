@@ -63,6 +63,7 @@ void drawLayout(FrmPadrao& form, std::span<const Row> layout, const LabelTexts& 
             std::visit(drawer, row.item);
         }
     }
+    ++form.labels_drawn;
 }
 
 } // namespace etiquetas

@@ -174,6 +174,8 @@ struct FrmPadrao {
     /// Family of the loaded order: "A" box, "B" corrugated, "C" accessory.
     Text TipoArquivo;
     bool ImpressaoFeita = false;
+    /// Labels that were drawn since the Print command last began, each with all of its rows.
+    std::int32_t labels_drawn = 0;
     /// True while `pctimage` holds the photograph of the item.
     bool tem_imagem = false;
 };

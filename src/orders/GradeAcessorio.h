@@ -2,6 +2,7 @@
 
 namespace etiquetas {
 
+class OrderLine;
 struct FrmPadrao;
 
 /// Fills the Workbench with the accessory chosen in `cmb_referencia`: the item fields and the
@@ -9,5 +10,8 @@ struct FrmPadrao;
 /// beyond the last slot is reported. Where no line matches, the item fields keep the values of the
 /// item before.
 void carrega_grade_Acessorio(FrmPadrao& form);
+
+/// Whether a line of this width is one that the loader reads; it passes over all others.
+[[nodiscard]] bool hasAccessoryLayout(const OrderLine& line);
 
 } // namespace etiquetas

@@ -2,6 +2,7 @@
 
 namespace etiquetas {
 
+class OrderLine;
 struct FrmPadrao;
 
 /// Fills the corrugated panel with the pack chosen in `cmb_referencia1`, from its first line in
@@ -9,5 +10,8 @@ struct FrmPadrao;
 /// one. Where no line matches, all of it is empty. Fails where a carton number is no number or
 /// leaves 16 bits.
 void carrega_corrugado(FrmPadrao& form);
+
+/// Whether a line of this width is one that the loader reads; it passes over all others.
+[[nodiscard]] bool hasCorrugatedLayout(const OrderLine& line);
 
 } // namespace etiquetas

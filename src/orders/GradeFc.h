@@ -2,6 +2,7 @@
 
 namespace etiquetas {
 
+class OrderLine;
 struct FrmPadrao;
 
 /// Fills the Workbench with the box item chosen in `cmb_referencia`: the item fields from its
@@ -9,5 +10,8 @@ struct FrmPadrao;
 /// no line matches, the item fields keep the values of the item before. A fifteenth size is
 /// reported and left out. Fails where a quantity does not convert or leaves 16 bits.
 void carrega_gradeFc(FrmPadrao& form);
+
+/// Whether a line of this width is one that the loader reads; it passes over all others.
+[[nodiscard]] bool hasBoxLayout(const OrderLine& line);
 
 } // namespace etiquetas

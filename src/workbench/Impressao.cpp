@@ -76,10 +76,11 @@ void cmd_printacessorio_click(FrmPadrao& form) {
     closeMarginDialogs(form);
     form.txtbarra.text.clear();
     form.ImpressaoFeita = true;
+    form.labels_drawn = 0;
     if (printLabels(form) == Course::ends) {
         return;
     }
-    if (form.ImpressaoFeita && !confirm(form, u"A Impressão está OK")) {
+    if (form.ImpressaoFeita && !confirm(form, Text(closing_question))) {
         return;
     }
     skip([&] { limpa_objetos(form); });

@@ -222,4 +222,10 @@ void carrega_pedido(FrmPadrao& form) {
     reportShortLines(form, name, taker.shortLines());
 }
 
+std::optional<Text> loadedOrderPath(const FrmPadrao& form) {
+    const Text name = firstOfFamily(form, orderFamily(form.TipoArquivo));
+    return name.empty() ? std::nullopt
+                        : findFile(form.platform.files, form.lblpath.caption, upperCase(name));
+}
+
 } // namespace etiquetas

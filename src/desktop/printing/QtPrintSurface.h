@@ -45,6 +45,8 @@ class QtPrintSurface final : public PrintSurface {
 
     /// What is called after each job, whether it was delivered or not.
     void onJobEnded(JobEnded told) { job_ended_ = std::move(told); }
+    /// Has the built-in device write its files into this folder, made where it is missing, instead.
+    void writeJobsInto(const QString& folder) { folder_ = folder; }
     /// Forgets the open job, if there is one: nothing of it is printed.
     void dropJob() { job_.reset(); }
 
