@@ -79,7 +79,8 @@ const std::array<Trial, 5>& trials() {
 }
 
 Finding found(FindingKind kind, TextView text, TextView fate) {
-    return {.kind = kind, .text = Text(u"O texto \"").append(text).append(u"\" ").append(fate)};
+    return {.kind = kind,
+            .text = Text(u"O texto \"").append(trimmed(text)).append(u"\" ").append(fate)};
 }
 
 // A text that is printed in parts has one that it begins with.

@@ -123,7 +123,7 @@ INSTANTIATE_TEST_SUITE_P(
         OrderCase{"hidden_text",
                   tipo::oculta,
                   u"FRENTE",
-                  {lineOf({.description = u"TENIS CASUAL FEMININO BAIXO"})},
+                  {lineOf({.description = u"TENIS CASUAL FEMININO BAIXO LISO"})},
                   {{2, FindingKind::text_broken}}},
         OrderCase{"accessory_texts",
                   tipo::acessorio,

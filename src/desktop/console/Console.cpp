@@ -67,9 +67,8 @@ int runConsole(int argc, char** argv) {
         tell(u"Veja etiquetas --help."_s);
         return exit_code::wrong_use;
     }
-    if (read.options.folder.isEmpty()) {
-        read.options.folder = QCoreApplication::applicationDirPath();
-    }
+    read.options.folder = read.options.folder.isEmpty() ? QCoreApplication::applicationDirPath()
+                                                        : QDir(read.options.folder).absolutePath();
     try {
         return doTask(read.options);
     } catch (const Failure& failure) {

@@ -3,6 +3,8 @@
 #include "desktop/records/LogEntries.h"
 #include "workbench/Inicio.h"
 
+#include <QDir>
+
 namespace etiquetas {
 
 ConsoleMachine::ConsoleMachine(const ConsoleOptions& options)
@@ -15,7 +17,7 @@ ConsoleMachine::ConsoleMachine(const ConsoleOptions& options)
     logPrinters(log_, printers_);
     files_.onRead([this](TextView path, std::size_t bytes) { logFileRead(log_, path, bytes); });
     if (!options.output.isEmpty()) {
-        surface_.writeJobsInto(options.output);
+        surface_.writeJobsInto(QDir(options.output).absolutePath());
     }
     surface_.onJobEnded([this](const EndedJob& job) {
         logJob(log_, job);

@@ -220,7 +220,7 @@ void PrintRun::report(const Outcome& outcome) {
                              {u"paginas"_s, static_cast<int>(outcome.pages)},
                              {u"destino"_s, outcome.where},
                              {u"impresso"_s, outcome.printed}});
-    if (!outcome.printed) {
+    if (!outcome.printed) { // why, a box has told where the command ended early
         tell(u"O item %1 não foi impresso por inteiro: %2 de %3."_s.arg(
             QString::number(outcome.number), QString::number(outcome.labels),
             counted(static_cast<std::size_t>(outcome.expected), u"etiqueta"_s, u"etiquetas"_s)));

@@ -27,7 +27,7 @@ namespace {
 // What programs know a kind of finding by.
 struct KindName {
     FindingKind kind;
-    const char16_t* name;
+    TextView name;
 };
 
 constexpr std::array<KindName, 17> kind_names{{
@@ -53,7 +53,7 @@ constexpr std::array<KindName, 17> kind_names{{
 QString nameOf(FindingKind kind) {
     const auto* const row = std::find_if(kind_names.begin(), kind_names.end(),
                                          [&](const KindName& known) { return known.kind == kind; });
-    return row == kind_names.end() ? QString() : QString(row->name);
+    return row == kind_names.end() ? QString() : toQString(row->name);
 }
 
 // A finding, and the label kinds that it concerns.

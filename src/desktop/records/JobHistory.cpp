@@ -149,11 +149,10 @@ std::vector<PrintedJob> JobHistory::jobs(const QString& order) const {
         return jobs;
     }
     open();
-    const QString statement =
-        u"SELECT %1 FROM trabalhos WHERE ?1 = '' OR pedido = ?1 ORDER BY id"_s.arg(columns());
-    // A text without characters counts as no value at all where it is null.
-    QSqlQuery rows =
-        run(QSqlDatabase::database(connection_), statement, {order.isEmpty() ? u""_s : order});
+    const QString condition = order.isEmpty() ? QString() : u"WHERE pedido = ? "_s;
+    const QString statement = u"SELECT %1 FROM trabalhos %2ORDER BY id"_s.arg(columns(), condition);
+    QSqlQuery rows = run(QSqlDatabase::database(connection_), statement,
+                         order.isEmpty() ? QVariantList() : QVariantList{order});
     while (rows.next()) {
         jobs.push_back(jobOf(rows));
     }

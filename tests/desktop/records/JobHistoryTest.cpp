@@ -19,7 +19,7 @@ TEST_F(JobHistoryTest, keepsTheJobsOfTheWindowAndTheirAnswers) {
     ASSERT_TRUE(job);
     EXPECT_EQ(job->item.order, u"1400050831"_s);
     EXPECT_EQ(job->item.kind, u"Oculta"_s);
-    EXPECT_EQ(job->labels, 24); // twice 1 + 2 + 3 + 3 + 2 + 1 pairs
+    EXPECT_EQ(job->labels, 28); // two for each of 14 pairs
     EXPECT_EQ(job->answer, Answer::yes);
     EXPECT_LT(job->time.secsTo(QDateTime::currentDateTime()), 600);
     EXPECT_FALSE(history.lastOf(shownItem(desktop->form()))); // the next item
