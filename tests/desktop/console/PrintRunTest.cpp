@@ -1,6 +1,6 @@
 #include "desktop/console/PrintRun.h"
 
-#include "SampleWindow.h"
+#include "tests/desktop/SampleWindow.h"
 #include "desktop/console/ConsoleText.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "desktop/records/JobHistory.h"
 
-#include "SampleWindow.h"
 #include "base/Failure.h"
+#include "tests/desktop/SampleWindow.h"
 
 #include <gtest/gtest.h>
 
