@@ -17,7 +17,8 @@ fail() {
 }
 
 cmake --install "$build" --prefix "$installation" > /dev/null
-for file in etiquetas brisako.jpg lumira.jpg Varesko.ini imagens/3104527.jpg; do
+for file in etiquetas brisako.jpg lumira.jpg Varesko.ini imagens/3104527.jpg share/man/man1/etiquetas.1 \
+    share/bash-completion/completions/etiquetas; do
     [ -e "$installation/$file" ] || fail "$file is not installed"
 done
 

@@ -14,7 +14,8 @@ cd "$sources"
 
 # From bottom to top.
 layers="base platform model support barcodes config orders labels channel margins workbench
-        desktop/machine desktop/printing desktop/preview desktop/windows desktop"
+        review desktop/machine desktop/printing desktop/preview desktop/records desktop/windows
+        desktop/console desktop"
 
 # Every include, as "./folder/file:line:text". /dev/null keeps grep content in an empty tree.
 includes=$(find . -type f \( -name '*.h' -o -name '*.h.in' -o -name '*.hpp' -o -name '*.cpp' \) \

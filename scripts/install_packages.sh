@@ -16,6 +16,7 @@ esac
 packages=(
     g++ cmake ninja-build ccache                           # build
     qt6-base-dev qt6-translations-l10n                     # window and printing
+    libqt6sql6-sqlite                                      # history of the jobs
     libspdlog-dev                                          # log
     fonts-crosextra-carlito fonts-liberation fonts-open-sans # faces of the labels
     poppler-utils                                          # label pages as pictures

@@ -1,9 +1,10 @@
 #include "desktop/Desktop.h"
 
 #include "desktop/LeftDrafts.h"
-#include "desktop/LogEntries.h"
 #include "desktop/machine/QtText.h"
 #include "desktop/printing/PdfFile.h"
+#include "desktop/records/JobTitle.h"
+#include "desktop/records/LogEntries.h"
 #include "desktop/windows/DialogTable.h"
 #include "desktop/windows/FieldTable.h"
 #include "desktop/windows/StatusLine.h"
@@ -24,8 +25,8 @@ namespace etiquetas {
 Desktop::Desktop(const QString& folder)
     : log_(startedLog(folder)),
       skipped_([this](const Failure& failure) { logSkipped(log_, failure); }), files_(folder),
-      surface_(printers_, folder),
-      form_({printers_, surface_, logged_messages_, pictures_, folder_memory_, focus_, pointer_,
+      surface_(printers_, folder), history_(folder),
+      form_({printers_, surface_, recorded_messages_, pictures_, folder_memory_, focus_, pointer_,
              process_, folders_, commands_}),
       bridge_(focus_, [this](const QString& description) { endOnFailure(description); }) {
     keepLog();
@@ -75,11 +76,12 @@ void Desktop::showJobFolder() {
 void Desktop::guideOperator() {
     surface_.countBy([this] { return labelCount(); });
     JobDelivery& delivery = surface_.delivery();
-    delivery.titleBy([this] { return jobTitle(); });
+    delivery.titleBy([this] { return jobTitle(form_); });
     delivery.onEnded([this](const EndedJob& job) {
         logJob(log_, job);
         last_job_ = job.file.isEmpty() ? last_job_ : job.file;
         guide_.jobEnded(job);
+        record(job);
     });
     messages_.doubtBy([this](const Message& message) { return doubtOf(message); });
     if (!printers_.answered()) {
@@ -128,7 +130,10 @@ void Desktop::watchLongJobs() {
 }
 
 void Desktop::openPreview() {
-    surface_.delivery().onPreview([this](const PreviewedJob& job) { preview_.showJob(job); });
+    surface_.delivery().onPreview([this](const PreviewedJob& job) {
+        previewed_ = isTestPrint(form_) ? std::nullopt : std::optional(shownItem(form_));
+        preview_.showJob(job);
+    });
     std::vector<PrintTarget> printers = printers_.targets();
     std::erase_if(printers, [](const PrintTarget& each) { return each.device == Device::preview; });
     preview_.offer(std::move(printers));
@@ -147,9 +152,21 @@ void Desktop::openPreview() {
 // An event like any other, so that nothing runs beside it; or while the closing question stands,
 // when the job before has ended. What becomes of the job is told at the foot of the window.
 void Desktop::deliverAgain(const std::function<void(JobDelivery&)>& deed) {
-    const auto deliver = [&] { skip([&] { deed(surface_.delivery()); }); };
+    const auto deliver = [&] {
+        repeats_ = true;
+        skip([&] { deed(surface_.delivery()); });
+        repeats_ = false;
+    };
     bridge_.isRunning() ? deliver() : bridge_.run(deliver);
     showStatus();
+}
+
+void Desktop::record(const EndedJob& job) {
+    if (!repeats_) {
+        recorded_messages_.takeJob(job);
+    } else if (previewed_) {
+        recorded_messages_.takeRepeated(job, *previewed_);
+    }
 }
 
 void Desktop::comeToFront() {
@@ -170,24 +187,6 @@ void Desktop::showStatus() {
 
 LabelCount Desktop::labelCount() const {
     return {.begun = form_.labels_begun, .finished = form_.labels_finished};
-}
-
-// Kind, order and item. A margin dialog is open only during its test print: the Print command
-// closes all of them.
-QString Desktop::jobTitle() const {
-    const bool is_carton = !form_.Frame1.visible;
-    const bool is_test = form_.FrmMargensOcultaZPL2.open || form_.FrmMargensCxZPL45.open ||
-                         form_.FrmMargensPackZPL.open;
-    const Text kind = is_carton ? Text(tipo::corrugado) : form_.cmbtipo.text;
-    const std::vector<Text> item =
-        is_carton ? std::vector{form_.txtcodigo1.text, form_.txtdescricao1.text, form_.txtcor1.text}
-                  : std::vector{form_.txtcodigo.text, form_.txtdescricao.text, form_.txtcor.text};
-    QStringList words{is_test ? QStringLiteral("Teste") : QString(), toQString(kind),
-                      toQString(form_.txtarquivo.text)};
-    for (const Text& word : item) {
-        words << toQString(word);
-    }
-    return words.join(u' ').simplified();
 }
 
 QString Desktop::doubtOf(const Message& message) const {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/Failure.h"
-#include "desktop/LoggedMessageBoxes.h"
 #include "desktop/StatusGuide.h"
 #include "desktop/machine/FolderMemory.h"
 #include "desktop/machine/Log.h"
@@ -11,6 +10,9 @@
 #include "desktop/machine/QtPrinters.h"
 #include "desktop/preview/PreviewWindow.h"
 #include "desktop/printing/QtPrintSurface.h"
+#include "desktop/records/JobHistory.h"
+#include "desktop/records/JobRecorder.h"
+#include "desktop/records/LoggedMessageBoxes.h"
 #include "desktop/windows/DialogWindow.h"
 #include "desktop/windows/EventBridge.h"
 #include "desktop/windows/ProgressWindow.h"
@@ -62,11 +64,11 @@ class Desktop {
     void watchItemLists();
     void watchLongJobs();
     void openPreview();
+    void record(const EndedJob& job);
     void deliverAgain(const std::function<void(JobDelivery&)>& deed);
     void showStatus();
     void showJobFolder();
     [[nodiscard]] LabelCount labelCount() const;
-    [[nodiscard]] QString jobTitle() const;
     [[nodiscard]] QString doubtOf(const Message& message) const;
     bool close();
     void end(int exit_code);
@@ -81,6 +83,8 @@ class Desktop {
     QtPrintSurface surface_;
     QtMessageBoxes messages_;
     LoggedMessageBoxes logged_messages_{messages_, log_};
+    JobHistory history_;
+    JobRecorder recorded_messages_{logged_messages_, history_, form_};
     QtFocus focus_;
     QtPointer pointer_;
     QtProcess process_;
@@ -88,7 +92,9 @@ class Desktop {
     QtCommandStart commands_;
     FrmPadrao form_;
     StatusGuide guide_{form_};
-    QString last_job_; // the path of the PDF file that was written last
+    QString last_job_;                     // the path of the PDF file that was written last
+    std::optional<PrintedItem> previewed_; // what the preview shows; no test print
+    bool repeats_ = false;                 // while a job of the preview is delivered anew
     std::function<void(const QString& path)> open_;
     WorkbenchWindow window_;
     MarginWindow oculta_margins_{QStringLiteral("FrmMargensOcultaZPL2")};

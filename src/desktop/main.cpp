@@ -1,20 +1,26 @@
 #include "desktop/Desktop.h"
 #include "desktop/SingleInstance.h"
+#include "desktop/console/Console.h"
+#include "desktop/console/ConsoleOptions.h"
+#include "desktop/console/ConsoleText.h"
+#include "desktop/machine/Translation.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QTranslator>
+#include <QDir>
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
+namespace {
+
+int runWindow(int argc, char** argv) {
+    const QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
-    // The toolkit's own texts, of its folder picker say, in the operator's language.
-    QTranslator toolkit;
-    if (toolkit.load(QStringLiteral("qtbase_pt_BR"),
-                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QApplication::installTranslator(&toolkit);
+    etiquetas::speakPortuguese();
+    const auto [options, fault] = etiquetas::readOptions(QApplication::arguments());
+    if (!fault.isEmpty()) {
+        etiquetas::tell(fault);
+        return etiquetas::exit_code::wrong_use;
     }
-    const QString folder = QApplication::applicationDirPath();
+    const QString folder = options.folder.isEmpty() ? QApplication::applicationDirPath()
+                                                    : QDir(options.folder).absolutePath();
     etiquetas::SingleInstance instance(folder);
     if (!instance.isFirst()) {
         return 0; // the one that is has come to the front
@@ -23,4 +29,11 @@ int main(int argc, char** argv) {
     instance.onCalled([&desktop] { desktop.comeToFront(); });
     desktop.start();
     return desktop.exitCode() ? *desktop.exitCode() : QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    return etiquetas::asksForConsole(argc, argv) ? etiquetas::runConsole(argc, argv)
+                                                 : runWindow(argc, argv);
 }

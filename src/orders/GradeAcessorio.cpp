@@ -120,4 +120,8 @@ void carrega_grade_Acessorio(FrmPadrao& form) {
               });
 }
 
+bool hasAccessoryLayout(const OrderLine& line) {
+    return layoutOf(line, layouts) != nullptr;
+}
+
 } // namespace etiquetas

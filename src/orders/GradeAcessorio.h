@@ -4,6 +4,7 @@
 
 namespace etiquetas {
 
+class OrderLine;
 struct FrmPadrao;
 
 /// Fills the Workbench with the accessory chosen in `cmb_referencia`: the item fields and the
@@ -16,5 +17,8 @@ void carrega_grade_Acessorio(FrmPadrao& form);
 /// same one; `none` where the line is too short.
 LineIndex::Line indexAccessoryLine(LineIndex& index, LineIndex::Line number,
                                    const OrderBytes& line);
+
+/// Whether a line of this width is one that the loader reads; it passes over all others.
+[[nodiscard]] bool hasAccessoryLayout(const OrderLine& line);
 
 } // namespace etiquetas

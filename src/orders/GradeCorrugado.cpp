@@ -160,4 +160,8 @@ void carrega_corrugado(FrmPadrao& form) {
     chooseAllVolumes(form);
 }
 
+bool hasCorrugatedLayout(const OrderLine& line) {
+    return layoutOf(line, layouts) != nullptr;
+}
+
 } // namespace etiquetas

@@ -4,6 +4,7 @@
 
 namespace etiquetas {
 
+class OrderLine;
 struct FrmPadrao;
 
 /// Fills the corrugated panel with the pack chosen in `cmb_referencia1`, from its first line in
@@ -16,5 +17,8 @@ void carrega_corrugado(FrmPadrao& form);
 /// one; `none` where the line is too short.
 LineIndex::Line indexCorrugatedLine(LineIndex& index, LineIndex::Line number,
                                     const OrderBytes& line);
+
+/// Whether a line of this width is one that the loader reads; it passes over all others.
+[[nodiscard]] bool hasCorrugatedLayout(const OrderLine& line);
 
 } // namespace etiquetas

@@ -98,4 +98,8 @@ void carrega_gradeFc(FrmPadrao& form) {
     pega_imagem(form);
 }
 
+bool hasBoxLayout(const OrderLine& line) {
+    return layoutOf(line, layouts) != nullptr;
+}
+
 } // namespace etiquetas

@@ -32,7 +32,8 @@ constexpr std::array<OrderFamily, 3> families{{
      .items = &FrmPadrao::cmb_referencia,
      .panel = &FrmPadrao::Frame1,
      .caption = panel_caption::caixa_oculta,
-     .loadItem = loadBoxItem},
+     .loadItem = loadBoxItem,
+     .hasLayout = hasBoxLayout},
     {.name = family_name::corrugated,
      .word = u"CORRUGADO",
      .key = corrugated_key,
@@ -42,6 +43,7 @@ constexpr std::array<OrderFamily, 3> families{{
      .panel = &FrmPadrao::Frame3,
      .caption = panel_caption::corrugado,
      .loadItem = carrega_corrugado,
+     .hasLayout = hasCorrugatedLayout,
      .loads_blank_item = true},
     {.name = family_name::accessory,
      .word = u"ACESSORIO",
@@ -51,7 +53,8 @@ constexpr std::array<OrderFamily, 3> families{{
      .items = &FrmPadrao::cmb_referencia,
      .panel = &FrmPadrao::Frame1,
      .caption = panel_caption::acessorio,
-     .loadItem = loadAccessory},
+     .loadItem = loadAccessory,
+     .hasLayout = hasAccessoryLayout},
 }};
 
 } // namespace

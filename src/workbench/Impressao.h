@@ -6,7 +6,7 @@ namespace etiquetas {
 
 struct FrmPadrao;
 
-/// What the Print command asks in the end.
+/// What the operator is asked after each job; Yes takes the printed item off the order.
 inline constexpr TextView closing_question = u"A Impressão está OK";
 
 /// The Print command: checks the fields for the label kind, prints the item as one job, asks

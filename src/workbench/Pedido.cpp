@@ -285,4 +285,13 @@ void carrega_pedido(FrmPadrao& form) {
     reportShortLines(form, name, taker.shortLines());
 }
 
+std::optional<Text> loadedOrderPath(const FrmPadrao& form) {
+    const Text name = firstOfFamily(form, orderFamily(form.TipoArquivo));
+    if (name.empty()) {
+        return std::nullopt;
+    }
+    Text path = pathOf(form, name);
+    return form.platform.files.fileExists(path) ? std::optional(std::move(path)) : std::nullopt;
+}
+
 } // namespace etiquetas

@@ -44,6 +44,8 @@ class JobDelivery {
     JobDelivery(QString folder, Clock clock)
         : folder_(std::move(folder)), clock_(std::move(clock)) {}
 
+    /// Has files go into another folder, made where it is missing.
+    void writeInto(QString folder) { folder_ = std::move(folder); }
     /// What is told of each job, whether it was delivered or not.
     void onEnded(std::function<void(const EndedJob&)> told) { ended_ = std::move(told); }
     /// What shows the jobs of the preview.

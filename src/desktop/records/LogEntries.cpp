@@ -1,4 +1,4 @@
-#include "desktop/LogEntries.h"
+#include "desktop/records/LogEntries.h"
 
 #include "base/Version.h"
 #include "desktop/machine/QtText.h"

@@ -1,6 +1,6 @@
-#include "desktop/LoggedMessageBoxes.h"
+#include "desktop/records/LoggedMessageBoxes.h"
 
-#include "desktop/LogEntries.h"
+#include "desktop/records/LogEntries.h"
 
 namespace etiquetas {
 
