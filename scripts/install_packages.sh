@@ -27,6 +27,7 @@ if [ "$purpose" = test ]; then
         zbar-tools mupdf-tools    # readers of the printed bars and pages
         fontconfig                # where the fonts are
         fonts-dejavu-core fonts-noto-core fonts-cantarell # fonts of desktops
+        fonts-dejavu-extra        # a face's stand-in where the first one is missing
         xvfb xauth                # a display for the real window
         strace                    # system calls that fail
     )

@@ -5,12 +5,17 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace etiquetas {
 
 /// The family that a face is drawn with. `scale` brings its size to the proportions of the face.
+/// `ascent` is that of the face from the top of the cell to the baseline, in em of the unscaled
+/// size, where it is not to be the family's own.
 struct FontChoice {
     QString family;
     double scale = 1.0;
+    std::optional<double> ascent = std::nullopt;
 };
 
 /// Families that the machine has, without the foundry that a name may be followed by.

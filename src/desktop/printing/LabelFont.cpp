@@ -1,7 +1,5 @@
 #include "desktop/printing/LabelFont.h"
 
-#include "desktop/printing/FontTable.h"
-
 #include <QRawFont>
 #include <QtEndian>
 
@@ -52,9 +50,9 @@ std::optional<double> windowsAscent(const QByteArray& os2, const QByteArray& hea
     return static_cast<double>(*ascent) / *units;
 }
 
-LabelFont::LabelFont(const QString& family, bool bold, double scale)
-    : font_(largeFont(family, bold)), metrics_(font_), ascent_(ascentOf(font_, metrics_)),
-      scale_(scale) {}
+LabelFont::LabelFont(const FontChoice& choice, bool bold)
+    : font_(largeFont(choice.family, bold)), metrics_(font_), scale_(choice.scale),
+      ascent_(choice.ascent.value_or(ascentOf(font_, metrics_) * choice.scale)) {}
 
 double LabelFont::width(const QString& text, double size) const {
     return metrics_.horizontalAdvance(text) * scaleFor(size);
@@ -66,7 +64,7 @@ const LabelFont& LabelFontCache::get(TextView face, bool bold) {
         return known->second;
     }
     const FontChoice choice = chooseFont(face, bold, families_);
-    return fonts_.emplace(key, LabelFont(choice.family, bold, choice.scale)).first->second;
+    return fonts_.emplace(key, LabelFont(choice, bold)).first->second;
 }
 
 } // namespace etiquetas

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Text.h"
+#include "desktop/printing/FontTable.h"
 
 #include <QByteArray>
 #include <QFont>
@@ -25,21 +26,21 @@ class LabelFont {
     /// Pixels to the em.
     static constexpr int pixel_size = 2048;
 
-    LabelFont(const QString& family, bool bold, double scale);
+    LabelFont(const FontChoice& choice, bool bold);
 
     [[nodiscard]] const QFont& font() const { return font_; }
     /// Painter units to one pixel of the font, for a size in the same units.
     [[nodiscard]] double scaleFor(double size) const { return size * scale_ / pixel_size; }
     /// From the top of the character cell to the baseline, in the unit of the size.
-    [[nodiscard]] double ascent(double size) const { return ascent_ * scale_ * size; }
+    [[nodiscard]] double ascent(double size) const { return ascent_ * size; }
     /// Width of a text, in the unit of the size.
     [[nodiscard]] double width(const QString& text, double size) const;
 
   private:
     QFont font_;
     QFontMetricsF metrics_;
-    double ascent_; // em
     double scale_;
+    double ascent_; // em of the size that is asked for
 };
 
 /// The label fonts in use, each made once.
