@@ -28,6 +28,7 @@ class ConsoleMachine {
 
     [[nodiscard]] FrmPadrao& form() { return form_; }
     [[nodiscard]] ConsoleBoxes& boxes() { return boxes_; }
+    [[nodiscard]] const QtPrinters& printers() const { return printers_; }
     [[nodiscard]] QtPrintSurface& surface() { return surface_; }
     /// The job that has ended since the last call.
     [[nodiscard]] std::optional<EndedJob> takeJob() { return std::exchange(job_, std::nullopt); }

@@ -70,8 +70,10 @@ List kinds() {
 List printers() {
     const QtPrinters machine;
     List list({u"impressora"_s, u"padrao"_s});
-    for (const Text& name : machine.names()) {
-        list.add({toQString(name), name == machine.defaultName()});
+    for (const PrintTarget& printer : machine.targets()) {
+        if (printer.device != Device::preview) { // which needs its window
+            list.add({printer.name, toText(printer.name) == machine.defaultName()});
+        }
     }
     return list;
 }
