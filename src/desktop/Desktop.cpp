@@ -28,6 +28,7 @@ Desktop::Desktop(const QString& folder)
       surface_(printers_, folder), history_(folder),
       form_({printers_, surface_, recorded_messages_, pictures_, folder_memory_, focus_, pointer_,
              process_, folders_, commands_}),
+      review_(form_, printers_, folder, [this] { return bridge_.isRunning(); }),
       bridge_(focus_, [this](const QString& description) { endOnFailure(description); }) {
     keepLog();
     for (const QString& draft : removeLeftDrafts(folder)) {
@@ -47,6 +48,7 @@ Desktop::Desktop(const QString& folder)
     process_.onEnd([this] { end(0); });
     window_.onClose([this] { return close(); });
     window_.onShowFolder([this] { showJobFolder(); });
+    window_.onShowFindings([this] { showFindings(); });
     window_.onResize([this] { bridge_.run([this] { FrmPadrao_resize(form_); }); });
 }
 
@@ -88,6 +90,11 @@ void Desktop::guideOperator() {
         guide_.printersMissing();
     }
     openBy([](const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
+    guide_.historyBy([this] { return tellEarlierJob(); });
+    review_.onEnd([this] {
+        guide_.found(review_.count());
+        showStatus();
+    });
     watchItemLists();
     watchLongJobs();
     openPreview();
@@ -113,6 +120,10 @@ void Desktop::watchItemLists() {
     bridge_.onEventEnded([this, lists] {
         surface_.delivery().pulse().rest();
         guide_.eventEnded(lists.contains(window_.focusWidget()));
+        if (guide_.orderChanged()) {
+            findings_.hide();
+            review_.begin();
+        }
         showStatus();
     });
 }
@@ -178,6 +189,24 @@ void Desktop::comeToFront() {
             window->activateWindow();
         }
     }
+}
+
+QString Desktop::tellEarlierJob() const {
+    QString told;
+    skip([&] {
+        const auto job = history_.lastOf(shownItem(form_));
+        told = job ? tellJob(*job) : QString();
+    });
+    return told;
+}
+
+void Desktop::showFindings() {
+    if (bridge_.isRunning()) {
+        return;
+    }
+    findings_.show(guide_.file(), review_.finish());
+    guide_.found(review_.count());
+    showStatus();
 }
 
 void Desktop::showStatus() {

@@ -107,6 +107,12 @@ void StatusGuide::eventEnded(bool in_item_list) {
     look();
     noteTakenLine();
     noteLoadedItem(in_item_list);
+    const bool is_other_kind = std::exchange(kind_, form_.cmbtipo.text) != form_.cmbtipo.text;
+    order_changed_ = has_order_ || is_other_kind;
+    if (order_changed_) {
+        printed_before_ = history_();
+        findings_.reset();
+    }
     has_order_ = false;
     has_job_ = false;
     is_printing_ = false;
@@ -139,6 +145,9 @@ void StatusGuide::noteLoadedItem(bool in_item_list) {
     const Text& item = (form_.*family()->items).text;
     picked_ = toQString(item);
     const bool is_loaded = !in_item_list || has_job_ || has_order_;
+    if (isBlank(item)) {
+        printed_before_.clear();
+    }
     if (!is_loaded || isBlank(item)) {
         return;
     }
@@ -146,6 +155,7 @@ void StatusGuide::noteLoadedItem(bool in_item_list) {
         return;
     }
     place_ = placeOf(loaded_, all_items_);
+    printed_before_ = history_();
     if (!has_job_) {
         job_.reset();
     }
@@ -193,6 +203,9 @@ QString StatusGuide::itemText() const {
     if (!items().empty()) {
         parts << (items().size() == 1 ? u"falta 1"_s : u"faltam %1"_s.arg(items().size()));
     }
+    if (findings_.value_or(0) > 0) {
+        parts << counted(*findings_, u"achado (F6)"_s, u"achados (F6)"_s);
+    }
     return parts.join(separator);
 }
 
@@ -209,6 +222,9 @@ QStringList StatusGuide::happenings() const {
         if (job_->cut_off > 0) {
             told << cutOffText(*job_);
         }
+    }
+    if (!printed_before_.isEmpty()) {
+        told << u"Este item já foi "_s + printed_before_;
     }
     if (!taken_lines_.isEmpty()) {
         told << (taken_lines_.size() == 1 ? u"linha retirada: "_s : u"linhas retiradas: "_s) +
@@ -228,7 +244,7 @@ StatusMood StatusGuide::mood() const {
         return StatusMood::failed;
     }
     const bool warns = isNotLoaded() || printers_missing_ || !taken_lines_.isEmpty() ||
-                       (job_ && job_->cut_off > 0);
+                       !printed_before_.isEmpty() || (job_ && job_->cut_off > 0);
     if (warns) {
         return StatusMood::warning;
     }

@@ -19,7 +19,7 @@ struct KeyHelp {
     const char* effect;
 };
 
-constexpr std::array<KeyHelp, 12> help{{
+constexpr std::array<KeyHelp, 13> help{{
     {"Enter, ↓", "Próximo campo; num comando, Enter o executa"},
     {"↑", "Campo anterior"},
     {"Tab, Shift+Tab", "Próximo campo ou comando, ou o anterior"},
@@ -27,6 +27,7 @@ constexpr std::array<KeyHelp, 12> help{{
     {"F2", "Mostra ou esconde as opções (Adicionar, Empresa)"},
     {"F3", "Destrava ou trava a grade da etiqueta Corrugado"},
     {"F5", "Abre a pasta das últimas etiquetas gravadas em PDF"},
+    {"F6", "Mostra os achados da conferência do pedido"},
     {"Alt+I", "Imprimir Etiquetas"},
     {"Alt+C", "Calibrar Etiquetas"},
     {"Alt+P", "Parâmetro de Impressão"},

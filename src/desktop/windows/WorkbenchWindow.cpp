@@ -91,6 +91,8 @@ void WorkbenchWindow::addKeys() {
     connect(help, &QShortcut::activated, keys, &KeysWindow::open);
     const auto* const folder = new QShortcut(Qt::Key_F5, this);
     connect(folder, &QShortcut::activated, this, [this] { show_folder_(); });
+    const auto* const findings = new QShortcut(Qt::Key_F6, this);
+    connect(findings, &QShortcut::activated, this, [this] { show_findings_(); });
 }
 
 void WorkbenchWindow::showSize(TwipSize size) {

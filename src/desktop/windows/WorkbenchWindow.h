@@ -45,6 +45,8 @@ class WorkbenchWindow final : public QMainWindow {
     void onResize(std::function<void()> resized) { resized_ = std::move(resized); }
     /// What runs when the folder of the last labels is to be shown.
     void onShowFolder(std::function<void()> shown) { show_folder_ = std::move(shown); }
+    /// What runs when the findings of the order are to be shown.
+    void onShowFindings(std::function<void()> shown) { show_findings_ = std::move(shown); }
 
   signals:
     /// The font of the desktop or the screen has changed, and the unit with it.
@@ -74,6 +76,7 @@ class WorkbenchWindow final : public QMainWindow {
     std::function<bool()> closed_ = [] { return true; };
     std::function<void()> resized_ = [] {};
     std::function<void()> show_folder_ = [] {};
+    std::function<void()> show_findings_ = [] {};
 };
 
 } // namespace etiquetas
