@@ -22,7 +22,8 @@ class FindingsTest : public testing::Test, protected SampleWindow {
     [[nodiscard]] QString happened() const { return worker.text(u"status_happened"_s); }
 };
 
-// By the sample: five descriptions that break on hidden labels, and four photographs that the copy lacks.
+// By the sample: five descriptions that break on hidden labels, and four photographs that the copy
+// lacks.
 TEST_F(FindingsTest, areCountedAtTheFootAndListedByAKey) {
     load(oculta, "1400050831");
     EXPECT_TRUE(showsInOrder(u"9 achados (F6)"_s)) << worker.text(u"status_order"_s).toStdString();
