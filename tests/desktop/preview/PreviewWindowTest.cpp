@@ -96,7 +96,7 @@ TEST_P(ShownLabelTest, isAsTheFileHasItAndAsTheHeadBurnsIt) {
     const LabelPages& pages = *preview().job().pages;
     const QString pdf = folder.filePath(u"pages.pdf"_s);
     JobPulse pulse;
-    PrintJob({.name = pdf, .device = Device::pdf_file}, pages).write(pdf, pulse);
+    PrintJob({.name = pdf, .device = Device::pdf_file}, pulse, pages).write(pdf);
     // The edges of letters differ from renderer to renderer; a place that is off by half a pixel
     // makes 13 and more of a page of one strip.
     constexpr double edges = 9;
