@@ -171,7 +171,7 @@ QString StatusGuide::orderText() const {
             toQString(form_.cmbtipo.text));
     }
     if (!form_.cmd_printacessorio.visible) {
-        return u"Pedido \"%1\" não carregado"_s.arg(toQString(form_.txtarquivo.text));
+        return u"Nenhum pedido carregado: digite o número e tecle Enter"_s;
     }
     return file_.isEmpty() ? u"Digite o número do pedido e tecle Enter"_s : itemText();
 }
