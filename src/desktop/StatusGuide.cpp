@@ -201,8 +201,8 @@ QStringList StatusGuide::happenings() const {
     if (is_printing_) {
         return {u"Imprimindo…"_s};
     }
-    if (isNotLoaded()) {
-        told << u"Item escolhido ainda não carregado: saia da lista com Enter"_s;
+    if (isNotLoaded()) { // what to do now is not to be cut off by what was before
+        return {u"Item escolhido ainda não carregado: saia da lista com Enter"_s};
     }
     if (job_) {
         told << (job_->delivered ? deliveredText(*job_) : undeliveredText(*job_));
@@ -224,10 +224,13 @@ StatusMood StatusGuide::mood() const {
     if (is_printing_) {
         return StatusMood::plain;
     }
+    if (isNotLoaded()) {
+        return StatusMood::warning;
+    }
     if (job_ && !job_->delivered) {
         return StatusMood::failed;
     }
-    const bool warns = isNotLoaded() || printers_missing_ || !taken_lines_.isEmpty() ||
+    const bool warns = printers_missing_ || !taken_lines_.isEmpty() ||
                        (job_ && job_->cut_off > 0);
     if (warns) {
         return StatusMood::warning;
