@@ -1,6 +1,7 @@
 #include "desktop/Desktop.h"
 
 #include "desktop/LeftDrafts.h"
+#include "desktop/machine/Apart.h"
 #include "desktop/machine/QtText.h"
 #include "desktop/printing/PdfFile.h"
 #include "desktop/records/JobTitle.h"
@@ -18,14 +19,30 @@
 #include <QRegularExpression>
 #include <QUrl>
 
+#include <chrono>
 #include <utility>
 
 namespace etiquetas {
 
+namespace {
+
+// No window shows yet, so that a print system that takes long has a sign of its own, by which it
+// can be done without.
+QtPrinters foundPrinters() {
+    constexpr std::chrono::milliseconds without_sign{500};
+    ProgressWindow sign;
+    return QtPrinters(
+        [&sign, soon = Deadline(without_sign), in_time = Deadline(print_system_patience)] {
+            return soon() || (in_time() && sign.tell(nullptr, 0, 0, true));
+        });
+}
+
+} // namespace
+
 Desktop::Desktop(const QString& folder)
     : log_(startedLog(folder)),
       skipped_([this](const Failure& failure) { logSkipped(log_, failure); }), files_(folder),
-      surface_(printers_, folder), history_(folder),
+      printers_(foundPrinters()), surface_(printers_, folder), history_(folder),
       form_({printers_, surface_, recorded_messages_, pictures_, folder_memory_, focus_, pointer_,
              process_, folders_, commands_}),
       review_(form_, printers_, folder, [this] { return bridge_.isRunning(); }),
@@ -133,7 +150,7 @@ void Desktop::watchLongJobs() {
         [this](const JobProgress& progress) {
             guide_.jobBegins();
             showStatus();
-            const bool goes_on = progress_.tell(bridge_.activeWindow(), progress.labels,
+            const bool goes_on = progress_.tell(&bridge_.activeWindow(), progress.labels,
                                                 progress.in_all, progress.can_cancel);
             return goes_on ? JobWish::goes_on : JobWish::ends;
         },

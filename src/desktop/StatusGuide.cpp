@@ -181,7 +181,7 @@ QString StatusGuide::orderText() const {
             toQString(form_.cmbtipo.text));
     }
     if (!form_.cmd_printacessorio.visible) {
-        return u"Pedido \"%1\" não carregado"_s.arg(toQString(form_.txtarquivo.text));
+        return u"Nenhum pedido carregado: digite o número e tecle Enter"_s;
     }
     return file_.isEmpty() ? u"Digite o número do pedido e tecle Enter"_s : itemText();
 }
@@ -214,8 +214,8 @@ QStringList StatusGuide::happenings() const {
     if (is_printing_) {
         return {u"Imprimindo…"_s};
     }
-    if (isNotLoaded()) {
-        told << u"Item escolhido ainda não carregado: saia da lista com Enter"_s;
+    if (isNotLoaded()) { // what to do now is not to be cut off by what was before
+        return {u"Item escolhido ainda não carregado: saia da lista com Enter"_s};
     }
     if (job_) {
         told << (job_->delivered ? deliveredText(*job_) : undeliveredText(*job_));
@@ -240,11 +240,14 @@ StatusMood StatusGuide::mood() const {
     if (is_printing_) {
         return StatusMood::plain;
     }
+    if (isNotLoaded()) {
+        return StatusMood::warning;
+    }
     if (job_ && !job_->delivered) {
         return StatusMood::failed;
     }
-    const bool warns = isNotLoaded() || printers_missing_ || !taken_lines_.isEmpty() ||
-                       !printed_before_.isEmpty() || (job_ && job_->cut_off > 0);
+    const bool warns = printers_missing_ || !taken_lines_.isEmpty() || !printed_before_.isEmpty() ||
+                       (job_ && job_->cut_off > 0);
     if (warns) {
         return StatusMood::warning;
     }

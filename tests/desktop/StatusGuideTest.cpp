@@ -81,7 +81,8 @@ TEST_F(StatusGuideTest, tellsWhyThePrintCommandIsHidden) {
     EXPECT_EQ(guide.text().order, u"Tipo desconhecido: \"oculta\". Escolha um tipo da lista."_s);
     form.txtarquivo.text = u"99";
     load(tipo::oculta);
-    EXPECT_EQ(guide.text(), StatusText{.order = u"Pedido \"99\" não carregado"_s});
+    EXPECT_EQ(guide.text(),
+              StatusText{.order = u"Nenhum pedido carregado: digite o número e tecle Enter"_s});
 }
 
 TEST_F(StatusGuideTest, tellsOfAPickedItemUntilItsListIsLeft) {

@@ -2,24 +2,84 @@
 
 #include <QLibrary>
 
+#include <filesystem>
+#include <netinet/in.h>
+#include <string_view>
+#include <sys/socket.h>
+#include <sys/un.h>
+
 namespace etiquetas {
 
 using namespace Qt::StringLiterals;
 
-// The toolkit hands jobs to CUPS and does not tell of its refusals. CUPS keeps them for each
-// thread; it is there wherever the toolkit's printing is, but no part of what the program is built
-// with.
-QString printSystemError() {
-    constexpr int first_error = 0x0400; // of the status codes of IPP (RFC 8011)
+namespace {
+
+// The toolkit hands jobs to CUPS. That is there wherever the toolkit's printing is, but no part of
+// what the program is built with.
+template <typename Function>
+Function* fromCups(const char* name) {
     constexpr int version = 2;
     QLibrary cups(u"cups"_s, version);
-    const auto status = reinterpret_cast<int (*)()>(cups.resolve("cupsLastError"));
-    const auto text = reinterpret_cast<const char* (*)()>(cups.resolve("cupsLastErrorString"));
+    return reinterpret_cast<Function*>(cups.resolve(name));
+}
+
+// Where the print system answers: a socket in the file system, or a port of some machine.
+struct PrintServer {
+    std::string_view name;
+    int port = 0;
+};
+
+template <typename Address>
+const Address& as(const sockaddr_storage& address) {
+    return reinterpret_cast<const Address&>(address);
+}
+
+bool leadsTo(const PrintServer& server, int file) {
+    sockaddr_storage peer{};
+    socklen_t size = sizeof peer;
+    if (getpeername(file, reinterpret_cast<sockaddr*>(&peer), &size) != 0) {
+        return false; // no connection
+    }
+    switch (peer.ss_family) {
+    case AF_UNIX:
+        return server.name == &as<sockaddr_un>(peer).sun_path[0];
+    case AF_INET:
+        return ntohs(as<sockaddr_in>(peer).sin_port) == server.port;
+    case AF_INET6:
+        return ntohs(as<sockaddr_in6>(peer).sin6_port) == server.port;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+// The toolkit does not tell of the refusals of CUPS, which keeps them for each thread.
+QString printSystemError() {
+    constexpr int first_error = 0x0400; // of the status codes of IPP (RFC 8011)
+    auto* const status = fromCups<int()>("cupsLastError");
+    auto* const text = fromCups<const char*()>("cupsLastErrorString");
     if (status == nullptr || text == nullptr || status() < first_error) {
         return {};
     }
     const char* const told = text();
     return told != nullptr ? QString::fromLocal8Bit(told) : QString::number(status());
+}
+
+void breakOffPrintSystem() {
+    auto* const name = fromCups<const char*()>("cupsServer");
+    auto* const port = fromCups<int()>("ippPort");
+    if (name == nullptr || port == nullptr) {
+        return;
+    }
+    const PrintServer server{name(), port()};
+    std::error_code none;
+    for (const auto& open : std::filesystem::directory_iterator("/dev/fd", none)) {
+        const int file = std::stoi(open.path().filename().string());
+        if (leadsTo(server, file)) {
+            shutdown(file, SHUT_RDWR);
+        }
+    }
 }
 
 } // namespace etiquetas

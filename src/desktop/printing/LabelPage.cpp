@@ -49,6 +49,7 @@ std::size_t labelsOn(const LabelPages& pages) {
 }
 
 void draw(QPainter& painter, const LabelPage& page) {
+    painter.setPen(Qt::black); // that of a window is white on a dark desktop
     for (const Mark& mark : page.marks) {
         std::visit([&painter](const auto& kind) { drawMark(painter, kind); }, mark);
     }

@@ -25,9 +25,9 @@ constexpr int built_in_resolution = 1200; // dots to the inch
 
 const QString job_name = u"Etiquetas"_s;
 
-QString noAnswer(const QString& printer) {
+QString noAnswer(const QString& printer, PrintJob::Patience patience) {
     return u"O sistema de impressão não respondeu em %1 segundos (impressora \"%2\")."_s
-        .arg(print_system_patience.count())
+        .arg(std::chrono::duration<double>(patience).count())
         .arg(printer);
 }
 
@@ -46,14 +46,18 @@ std::unique_ptr<QPrinter> foundPrinter(const QString& name) {
 }
 
 // None for a built-in device.
-std::unique_ptr<QPrinter> makePrinter(const PrintTarget& target) {
+std::unique_ptr<QPrinter> makePrinter(const PrintTarget& target, JobPulse& pulse,
+                                      PrintJob::Patience patience) {
     if (target.device != Device::printer) {
         return nullptr;
     }
-    auto found =
-        apart([name = target.name] { return foundPrinter(name); }, Deadline(print_system_patience));
+    const auto goes_on = [&pulse, in_time = Deadline(patience)] {
+        pulse.step({});
+        return in_time();
+    };
+    auto found = apart([name = target.name] { return foundPrinter(name); }, goes_on);
     if (!found) {
-        throw printFailure(noAnswer(target.name));
+        throw printFailure(noAnswer(target.name, patience));
     }
     if (*found == nullptr) {
         throw printFailure(u"A impressora \"%1\" não está instalada."_s.arg(target.name));
@@ -71,14 +75,14 @@ bool startPage(QPagedPaintDevice& device, const QPageSize& size, QPainter& paint
     return painter.isActive() ? device.newPage() : painter.begin(&device);
 }
 
-// Tells before each page how many labels have been drawn. False where the device takes no page, or
-// `goes_on` says no.
+// Tells before each page how many labels have been drawn. False where the device takes no page.
 bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const QPageSize& own_page,
-               const std::function<bool(std::size_t labels)>& goes_on) {
+               const std::function<void(std::size_t labels)>& tell) {
     QPainter painter;
     std::size_t labels = 0;
     for (const LabelPage& page : pages) {
-        if (!goes_on(labels) || !startPage(device, page.size.value_or(own_page), painter)) {
+        tell(labels);
+        if (!startPage(device, page.size.value_or(own_page), painter)) {
             return false;
         }
         const double dots = device.logicalDpiX() / millimetres_per_inch;
@@ -112,51 +116,57 @@ LabelPages withOwnFonts(LabelPages pages) {
     return pages;
 }
 
-// What the thread that sends a job and the one that waits for it tell each other.
-struct Sending {
-    std::atomic<std::size_t> labels = 0;
-    std::atomic<bool> given_up = false;
-};
+// Labels that the thread that sends a job has drawn.
+using Drawn = std::atomic<std::size_t>;
 
 // Runs on a thread of its own. Tells why the print system has not taken the job; empty where it
-// has.
-QString sendPages(QPrinter& printer, const LabelPages& pages, Sending& sending) {
-    const auto goes_on = [&sending](std::size_t labels) {
-        sending.labels = labels;
-        return !sending.given_up;
-    };
+// has. Drawing asks nobody: the print system hears of the job when all pages are drawn.
+QString sendPages(QPrinter& printer, const LabelPages& pages, Drawn& drawn) {
     const QPageSize own_page = printer.pageLayout().pageSize();
-    return drawPages(printer, pages, own_page, goes_on) ? printSystemError()
-                                                        : u"o trabalho não pôde ser iniciado"_s;
+    return drawPages(printer, pages, own_page, [&drawn](std::size_t labels) { drawn = labels; })
+               ? printSystemError()
+               : u"o trabalho não pôde ser iniciado"_s;
 }
 
 // Goes on as long as labels are drawn. The last step sends them all at once, which takes its time.
+// What takes too long is broken off, and is given another second to end by that: it may ask again.
 class Stall {
   public:
-    explicit Stall(std::size_t pages)
-        : patience_(print_system_patience + std::chrono::milliseconds(pages)) {}
+    Stall(PrintJob::Patience patience, std::size_t pages)
+        : patience_(patience + std::chrono::milliseconds(pages)) {}
 
     bool operator()(std::size_t labels) {
         if (std::exchange(labels_, labels) != labels) {
             deadline_ = Deadline(patience_);
         }
-        return deadline_();
+        if (deadline_()) {
+            return true;
+        }
+        if (!end_) {
+            end_.emplace(std::chrono::seconds(1));
+        }
+        breakOffPrintSystem();
+        return (*end_)();
     }
+
+    [[nodiscard]] bool isBrokenOff() const { return end_.has_value(); }
 
   private:
     std::chrono::milliseconds patience_;
     std::size_t labels_ = 0;
     Deadline deadline_{patience_};
+    std::optional<Deadline> end_;
 };
 
 } // namespace
 
-int resolutionOf(const PrintTarget& target) {
-    return resolutionOf(makePrinter(target).get());
+int resolutionOf(const PrintTarget& target, JobPulse& pulse) {
+    return resolutionOf(makePrinter(target, pulse, print_system_patience).get());
 }
 
-PrintJob::PrintJob(const PrintTarget& target, LabelPages pages)
-    : target_(target), printer_(makePrinter(target)), pages_(std::move(pages)) {}
+PrintJob::PrintJob(const PrintTarget& target, JobPulse& pulse, LabelPages pages, Patience patience)
+    : target_(target), pulse_(&pulse), patience_(patience),
+      printer_(makePrinter(target, pulse, patience)), pages_(std::move(pages)) {}
 
 int PrintJob::resolution() const {
     return resolutionOf(printer_.get());
@@ -177,22 +187,22 @@ void PrintJob::endPage(std::size_t labels) {
     }
 }
 
-void PrintJob::send(JobPulse& pulse) {
-    const auto sending = std::make_shared<Sending>();
+void PrintJob::send() {
+    const auto drawn = std::make_shared<Drawn>(0);
     const std::size_t in_all = labelsOn(pages_);
-    Stall stall(pages_.size());
+    Stall stall(patience_, pages_.size());
     const auto goes_on = [&] {
-        const std::size_t labels = sending->labels;
-        pulse.step({.labels = labels, .in_all = in_all, .can_cancel = false});
+        const std::size_t labels = *drawn;
+        pulse_->step({.labels = labels, .in_all = in_all, .can_cancel = false});
         return stall(labels);
     };
     const auto refusal =
         apart([printer = std::move(printer_), pages = withOwnFonts(std::move(pages_)),
-               sending] { return sendPages(*printer, pages, *sending); },
+               drawn] { return sendPages(*printer, pages, *drawn); },
               goes_on);
-    if (!refusal) {
-        sending->given_up = true;
-        throw printFailure(noAnswer(target_.name) +
+    // The print system tells of no error where it was broken off with the pages on their way.
+    if (stall.isBrokenOff()) {
+        throw printFailure(noAnswer(target_.name, patience_) +
                            u" As etiquetas ainda podem sair: confira antes de imprimir de novo."_s);
     }
     if (!refusal->isEmpty()) {
@@ -201,17 +211,16 @@ void PrintJob::send(JobPulse& pulse) {
     }
 }
 
-void PrintJob::write(const QString& path, JobPulse& pulse) {
+void PrintJob::write(const QString& path) {
     QPdfWriter writer(path);
     writer.setResolution(built_in_resolution);
     writer.setPageMargins(QMarginsF());
     writer.setTitle(job_name);
     const std::size_t in_all = labelsOn(pages_);
-    const auto goes_on = [&pulse, in_all](std::size_t labels) {
-        pulse.step({.labels = labels, .in_all = in_all});
-        return true;
+    const auto tell = [this, in_all](std::size_t labels) {
+        pulse_->step({.labels = labels, .in_all = in_all});
     };
-    if (!drawPages(writer, pages_, builtInPage(), goes_on)) {
+    if (!drawPages(writer, pages_, builtInPage(), tell)) {
         throw printFailure(u"O arquivo \"%1\" não pôde ser gravado."_s.arg(path));
     }
 }

@@ -163,11 +163,13 @@ int QtPrintSurface::resolution() const {
     if (job_) {
         return job_->resolution();
     }
+    failWhereRefused();
     const PrintTarget& target = printers_->current();
     const auto known = resolutions_.find(target.name);
     return known != resolutions_.end()
                ? known->second
-               : resolutions_.emplace(target.name, resolutionOf(target)).first->second;
+               : resolutions_.emplace(target.name, resolutionOf(target, delivery_.pulse()))
+                     .first->second;
 }
 
 std::optional<QPageSize> QtPrintSurface::pageSize() const {
@@ -183,10 +185,14 @@ QRectF QtPrintSurface::place(float x, float y, float width, float height) const 
     return {x * scale, y * scale, width * scale, height * scale};
 }
 
-LabelPage& QtPrintSurface::drawnPage() {
+void QtPrintSurface::failWhereRefused() const {
     if (refused_ && refused_->selection == printers_->selections()) {
         throw refused_->reason;
     }
+}
+
+LabelPage& QtPrintSurface::drawnPage() {
+    failWhereRefused();
     try {
         beginJob();
     } catch (const Failure& failure) {
@@ -202,7 +208,7 @@ LabelPage& QtPrintSurface::drawnPage() {
 void QtPrintSurface::beginJob() {
     if (!job_) {
         refused_.reset();
-        job_.emplace(printers_->current());
+        job_.emplace(printers_->current(), delivery_.pulse());
     }
     delivery_.pulse().step({.labels = count_().finished - job_start_.finished});
 }

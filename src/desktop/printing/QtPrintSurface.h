@@ -87,6 +87,7 @@ class QtPrintSurface final : public PrintSurface {
     [[nodiscard]] int resolution() const;
     [[nodiscard]] std::optional<QPageSize> pageSize() const;
     [[nodiscard]] QRectF place(float x, float y, float width, float height) const;
+    void failWhereRefused() const;
     [[nodiscard]] LabelPage& drawnPage();
     void beginJob();
     void endPage();
@@ -101,7 +102,7 @@ class QtPrintSurface final : public PrintSurface {
     };
 
     const QtPrinters* printers_;
-    JobDelivery delivery_;
+    mutable JobDelivery delivery_; // beats while a printer is looked for
     std::function<LabelCount()> count_ = [] { return LabelCount(); };
 
     LabelFontCache fonts_;

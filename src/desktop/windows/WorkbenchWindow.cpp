@@ -14,8 +14,6 @@
 #include <QShortcut>
 #include <QSizePolicy>
 #include <QStatusBar>
-#include <QStyle>
-#include <QVariant>
 #include <QWindow>
 
 #include <utility>
@@ -147,9 +145,9 @@ void WorkbenchWindow::markSizes(bool not_loaded) {
     }
     static const QRegularExpression sizes(QStringLiteral("^(Label7|txtnumero)_\\d+$"));
     for (QWidget* const widget : findChildren<QWidget*>(sizes)) {
-        widget->setProperty("notLoaded", not_loaded);
-        widget->style()->unpolish(widget);
-        widget->style()->polish(widget);
+        QFont font = widget->font();
+        font.setStrikeOut(not_loaded);
+        widget->setFont(font);
     }
 }
 

@@ -36,7 +36,7 @@ class WorkbenchWindow final : public QMainWindow {
     void showBanner(std::optional<bool> is_lumira);
     /// The foot of the window.
     [[nodiscard]] StatusLine& status() { return *status_; }
-    /// Marks the sizes, by their property "notLoaded", as those of another item than the list
+    /// Marks the sizes, by striking them out, as those of another item than the list
     /// shows.
     void markSizes(bool not_loaded);
     /// What runs when the window is to be closed; tells whether it closes.
