@@ -57,7 +57,20 @@ LabelFont::LabelFont(const QString& family, bool bold, double scale)
       scale_(scale) {}
 
 double LabelFont::width(const QString& text, double size) const {
-    return metrics_.horizontalAdvance(text) * scaleFor(size);
+    return advance(text) * scaleFor(size);
+}
+
+// Labels measure the same texts over and over.
+double LabelFont::advance(const QString& text) const {
+    constexpr qsizetype most = 4096;
+    const auto known = advances_.constFind(text);
+    if (known != advances_.constEnd()) {
+        return *known;
+    }
+    if (advances_.size() == most) {
+        advances_.clear();
+    }
+    return *advances_.insert(text, metrics_.horizontalAdvance(text));
 }
 
 const LabelFont& LabelFontCache::get(TextView face, bool bold) {

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -36,9 +37,12 @@ class LabelFont {
     [[nodiscard]] double width(const QString& text, double size) const;
 
   private:
+    [[nodiscard]] double advance(const QString& text) const;
+
     QFont font_;
     QFontMetricsF metrics_;
-    double ascent_; // em
+    mutable QHash<QString, double> advances_; // of texts that were measured, in pixels
+    double ascent_;                           // em
     double scale_;
 };
 

@@ -1,5 +1,7 @@
 #include "desktop/printing/LabelPage.h"
 
+#include "desktop/printing/ShapedTexts.h"
+
 #include <numeric>
 
 namespace etiquetas {
@@ -13,20 +15,19 @@ double millimetresRoundedUp(int twips) {
     return static_cast<double>(rounded_up) / 100;
 }
 
-void drawMark(QPainter& painter, const TextMark& mark) {
+void drawMark(QPainter& painter, const TextMark& mark, ShapedTexts& texts) {
     const QTransform millimetres = painter.worldTransform();
     painter.translate(mark.baseline);
     painter.scale(mark.scale, mark.scale);
-    painter.setFont(mark.font);
-    painter.drawText(QPointF(), mark.text);
+    texts.draw(painter, mark.font, mark.text);
     painter.setWorldTransform(millimetres);
 }
 
-void drawMark(QPainter& painter, const BoxMark& mark) {
+void drawMark(QPainter& painter, const BoxMark& mark, const ShapedTexts& /*texts*/) {
     painter.fillRect(mark.place, mark.colour);
 }
 
-void drawMark(QPainter& painter, const ImageMark& mark) {
+void drawMark(QPainter& painter, const ImageMark& mark, const ShapedTexts& /*texts*/) {
     painter.drawImage(mark.place, mark.image);
 }
 
@@ -49,8 +50,13 @@ std::size_t labelsOn(const LabelPages& pages) {
 }
 
 void draw(QPainter& painter, const LabelPage& page) {
+    ShapedTexts texts;
+    draw(painter, page, texts);
+}
+
+void draw(QPainter& painter, const LabelPage& page, ShapedTexts& texts) {
     for (const Mark& mark : page.marks) {
-        std::visit([&painter](const auto& kind) { drawMark(painter, kind); }, mark);
+        std::visit([&](const auto& kind) { drawMark(painter, kind, texts); }, mark);
     }
 }
 

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstddef>
 #include <span>
+#include <utility>
 
 namespace etiquetas {
 
@@ -52,22 +53,9 @@ QImage oneBitRow(std::span<const Pixel> pixels) {
     return image;
 }
 
-Mark bandMark(std::span<const Pixel> pixels, const QRectF& place) {
-    const bool blank = std::find(pixels.begin(), pixels.end(), black_pixel) == pixels.end();
-    return blank ? Mark(BoxMark{place, Qt::white}) : Mark(ImageMark{place, oneBitRow(pixels)});
-}
-
-// Bars must stand on the page where the raster has them. An image one row high and one bit deep is
-// stretched so far that no program smooths it, and it is stored without loss.
-void stampBands(LabelPage& page, const Raster& picture, const QRect& crop, const QRectF& place) {
-    const double row_height = place.height() / crop.height();
-    for (int row = crop.top(); row <= crop.bottom();) {
-        const int end = bandEnd(picture, crop, row);
-        const QRectF band(place.left(), place.top() + (row - crop.top()) * row_height,
-                          place.width(), (end - row) * row_height);
-        page.marks.emplace_back(bandMark(rowOf(picture, crop, row), band));
-        row = end;
-    }
+QByteArray bytesOf(std::span<const Pixel> pixels) {
+    const auto bytes = std::as_bytes(pixels);
+    return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
 }
 
 bool samePicture(const std::weak_ptr<const Raster>& kept, const Picture& picture) {
@@ -100,23 +88,58 @@ QRect cropOf(const Raster& picture, const SourceArea& source) {
 
 void PictureMarks::stamp(LabelPage& page, const Picture& picture, const QRect& crop,
                          const QRectF& place) {
-    if (isBlackAndWhite(*picture, crop)) {
-        stampBands(page, *picture, crop, place);
-    } else {
-        page.marks.emplace_back(ImageMark{place, keptImage(picture, crop)});
+    const double row_height = place.height() / crop.height();
+    for (const Band& band : bandsOf(picture, crop)) {
+        const QRectF rows(place.left(), place.top() + band.first * row_height, place.width(),
+                          (band.end - band.first) * row_height);
+        page.marks.push_back(band.image ? Mark(ImageMark{rows, *band.image})
+                                        : Mark(BoxMark{rows, Qt::white}));
     }
 }
 
-// The same image is handed out for each stamp of a picture: it is then stored once in a job.
-QImage PictureMarks::keptImage(const Picture& picture, const QRect& crop) {
-    std::erase_if(kept_, [](const Kept& kept) { return kept.picture.expired(); });
+// The same images are handed out for each stamp of a picture: they are then stored once in a job.
+const std::vector<PictureMarks::Band>& PictureMarks::bandsOf(const Picture& picture,
+                                                             const QRect& crop) {
     const auto known = std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) {
         return samePicture(kept.picture, picture) && kept.crop == crop;
     });
     if (known != kept_.end()) {
-        return known->image;
+        return known->bands;
     }
-    return kept_.emplace_back(Kept{picture, crop, imageOf(*picture, crop)}).image;
+    std::erase_if(kept_, [](const Kept& kept) { return kept.picture.expired(); });
+    std::vector<Band> bands = isBlackAndWhite(*picture, crop)
+                                  ? barBands(*picture, crop)
+                                  : std::vector{Band{0, crop.height(), imageOf(*picture, crop)}};
+    return kept_.emplace_back(Kept{picture, crop, std::move(bands)}).bands;
+}
+
+// Bars must stand on the page where the raster has them. An image one row high and one bit deep is
+// stretched so far that no program smooths it, and it is stored without loss.
+std::vector<PictureMarks::Band> PictureMarks::barBands(const Raster& picture, const QRect& crop) {
+    std::vector<Band> bands;
+    for (int row = crop.top(); row <= crop.bottom();) {
+        const int end = bandEnd(picture, crop, row);
+        bands.push_back({row - crop.top(), end - crop.top(), barRow(rowOf(picture, crop, row))});
+        row = end;
+    }
+    return bands;
+}
+
+// Symbols that are drawn anew have the same rows: the guards are those of all, and a size comes
+// again with the next item.
+std::optional<QImage> PictureMarks::barRow(std::span<const Pixel> pixels) {
+    if (std::find(pixels.begin(), pixels.end(), black_pixel) == pixels.end()) {
+        return std::nullopt;
+    }
+    constexpr qsizetype most = 4096;
+    if (bar_rows_.size() == most) {
+        bar_rows_.clear();
+    }
+    QImage& row = bar_rows_[bytesOf(pixels)];
+    if (row.isNull()) {
+        row = oneBitRow(pixels);
+    }
+    return row;
 }
 
 } // namespace etiquetas

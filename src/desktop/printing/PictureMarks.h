@@ -4,11 +4,15 @@
 #include "platform/Picture.h"
 #include "platform/PrintSurface.h"
 
+#include <QByteArray>
+#include <QHash>
 #include <QImage>
 #include <QRect>
 #include <QRectF>
 
 #include <memory>
+#include <optional>
+#include <span>
 #include <vector>
 
 namespace etiquetas {
@@ -23,15 +27,24 @@ class PictureMarks {
     void stamp(LabelPage& page, const Picture& picture, const QRect& crop, const QRectF& place);
 
   private:
+    // Rows of a crop, the first one being 0. Without an image they are white.
+    struct Band {
+        int first;
+        int end;
+        std::optional<QImage> image;
+    };
     struct Kept {
         std::weak_ptr<const Raster> picture;
         QRect crop;
-        QImage image;
+        std::vector<Band> bands;
     };
 
-    [[nodiscard]] QImage keptImage(const Picture& picture, const QRect& crop);
+    [[nodiscard]] const std::vector<Band>& bandsOf(const Picture& picture, const QRect& crop);
+    [[nodiscard]] std::vector<Band> barBands(const Raster& picture, const QRect& crop);
+    [[nodiscard]] std::optional<QImage> barRow(std::span<const Pixel> pixels);
 
     std::vector<Kept> kept_;
+    QHash<QByteArray, QImage> bar_rows_; // by their pixels
 };
 
 } // namespace etiquetas

@@ -4,6 +4,7 @@
 #include "desktop/machine/PrintSystem.h"
 #include "desktop/printing/JobPulse.h"
 #include "desktop/printing/PrintFailure.h"
+#include "desktop/printing/ShapedTexts.h"
 
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -76,6 +77,7 @@ bool startPage(QPagedPaintDevice& device, const QPageSize& size, QPainter& paint
 bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const QPageSize& own_page,
                const std::function<bool(std::size_t labels)>& goes_on) {
     QPainter painter;
+    ShapedTexts texts;
     std::size_t labels = 0;
     for (const LabelPage& page : pages) {
         if (!goes_on(labels) || !startPage(device, page.size.value_or(own_page), painter)) {
@@ -83,7 +85,7 @@ bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const QPageSi
         }
         const double dots = device.logicalDpiX() / millimetres_per_inch;
         painter.setWorldTransform(QTransform::fromScale(dots, dots));
-        draw(painter, page);
+        draw(painter, page, texts);
         labels += page.labels;
     }
     return true;
@@ -173,6 +175,7 @@ LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
 void PrintJob::endPage(std::size_t labels) {
     if (!page_ended_) {
         pages_.back().labels = labels;
+        pages_.back().marks.shrink_to_fit();
         page_ended_ = true;
     }
 }
