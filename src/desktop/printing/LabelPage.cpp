@@ -23,12 +23,18 @@ void drawMark(QPainter& painter, const TextMark& mark, ShapedTexts& texts) {
     painter.setWorldTransform(millimetres);
 }
 
-void drawMark(QPainter& painter, const BoxMark& mark, const ShapedTexts& /*texts*/) {
+void drawMark(QPainter& painter, const BoxMark& mark) {
     painter.fillRect(mark.place, mark.colour);
 }
 
-void drawMark(QPainter& painter, const ImageMark& mark, const ShapedTexts& /*texts*/) {
+void drawMark(QPainter& painter, const ImageMark& mark) {
     painter.drawImage(mark.place, mark.image);
+}
+
+// What has no texts.
+template <typename Other>
+void drawMark(QPainter& painter, const Other& mark, const ShapedTexts& /*texts*/) {
+    drawMark(painter, mark);
 }
 
 } // namespace

@@ -8,7 +8,6 @@
 #include <cmath>
 #include <cstddef>
 #include <span>
-#include <utility>
 
 namespace etiquetas {
 
@@ -44,18 +43,24 @@ int bandEnd(const Raster& picture, const QRect& crop, int row) {
     return end;
 }
 
-QImage oneBitRow(std::span<const Pixel> pixels) {
-    QImage image(static_cast<int>(pixels.size()), 1, QImage::Format_Mono);
+std::vector<bool> modulesOf(std::span<const Pixel> pixels) {
+    std::vector<bool> dark(pixels.size());
+    std::transform(pixels.begin(), pixels.end(), dark.begin(),
+                   [](Pixel pixel) { return pixel == black_pixel; });
+    return dark;
+}
+
+QImage oneBitRow(const std::vector<bool>& dark) {
+    QImage image(static_cast<int>(dark.size()), 1, QImage::Format_Mono);
     image.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
     for (int x = 0; x < image.width(); ++x) {
-        image.setPixel(x, 0, pixels[static_cast<std::size_t>(x)] == black_pixel ? 0 : 1);
+        image.setPixel(x, 0, dark[static_cast<std::size_t>(x)] ? 0 : 1);
     }
     return image;
 }
 
-QByteArray bytesOf(std::span<const Pixel> pixels) {
-    const auto bytes = std::as_bytes(pixels);
-    return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
+bool hasInk(std::span<const Pixel> pixels) {
+    return std::find(pixels.begin(), pixels.end(), black_pixel) != pixels.end();
 }
 
 bool samePicture(const std::weak_ptr<const Raster>& kept, const Picture& picture) {
@@ -88,58 +93,51 @@ QRect cropOf(const Raster& picture, const SourceArea& source) {
 
 void PictureMarks::stamp(LabelPage& page, const Picture& picture, const QRect& crop,
                          const QRectF& place) {
-    const double row_height = place.height() / crop.height();
-    for (const Band& band : bandsOf(picture, crop)) {
-        const QRectF rows(place.left(), place.top() + band.first * row_height, place.width(),
-                          (band.end - band.first) * row_height);
-        page.marks.push_back(band.image ? Mark(ImageMark{rows, *band.image})
-                                        : Mark(BoxMark{rows, Qt::white}));
+    if (isBlackAndWhite(*picture, crop)) {
+        stampBars(page, *picture, crop, place);
+    } else {
+        page.marks.emplace_back(ImageMark{place, keptImage(picture, crop)});
     }
-}
-
-// The same images are handed out for each stamp of a picture: they are then stored once in a job.
-const std::vector<PictureMarks::Band>& PictureMarks::bandsOf(const Picture& picture,
-                                                             const QRect& crop) {
-    const auto known = std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) {
-        return samePicture(kept.picture, picture) && kept.crop == crop;
-    });
-    if (known != kept_.end()) {
-        return known->bands;
-    }
-    std::erase_if(kept_, [](const Kept& kept) { return kept.picture.expired(); });
-    std::vector<Band> bands = isBlackAndWhite(*picture, crop)
-                                  ? barBands(*picture, crop)
-                                  : std::vector{Band{0, crop.height(), imageOf(*picture, crop)}};
-    return kept_.emplace_back(Kept{picture, crop, std::move(bands)}).bands;
 }
 
 // Bars must stand on the page where the raster has them. An image one row high and one bit deep is
 // stretched so far that no program smooths it, and it is stored without loss.
-std::vector<PictureMarks::Band> PictureMarks::barBands(const Raster& picture, const QRect& crop) {
-    std::vector<Band> bands;
-    for (int row = crop.top(); row <= crop.bottom();) {
-        const int end = bandEnd(picture, crop, row);
-        bands.push_back({row - crop.top(), end - crop.top(), barRow(rowOf(picture, crop, row))});
-        row = end;
+void PictureMarks::stampBars(LabelPage& page, const Raster& picture, const QRect& crop,
+                             const QRectF& place) {
+    const double row_height = place.height() / crop.height();
+    for (int row = crop.top(), end = row; row <= crop.bottom(); row = end) {
+        end = bandEnd(picture, crop, row);
+        const QRectF band(place.left(), place.top() + (row - crop.top()) * row_height,
+                          place.width(), (end - row) * row_height);
+        const auto pixels = rowOf(picture, crop, row);
+        page.marks.push_back(hasInk(pixels) ? Mark(ImageMark{band, keptRow(pixels)})
+                                            : Mark(BoxMark{band, Qt::white}));
     }
-    return bands;
 }
 
-// Symbols that are drawn anew have the same rows: the guards are those of all, and a size comes
-// again with the next item.
-std::optional<QImage> PictureMarks::barRow(std::span<const Pixel> pixels) {
-    if (std::find(pixels.begin(), pixels.end(), black_pixel) == pixels.end()) {
-        return std::nullopt;
+// Equal rows are one image, whatever picture they are of: it is then stored once in a job.
+QImage PictureMarks::keptRow(std::span<const Pixel> pixels) {
+    constexpr std::size_t most_kept = 4096;
+    if (rows_.size() >= most_kept) {
+        rows_.clear();
     }
-    constexpr qsizetype most = 4096;
-    if (bar_rows_.size() == most) {
-        bar_rows_.clear();
+    const auto [known, is_new] = rows_.try_emplace(modulesOf(pixels));
+    if (is_new) {
+        known->second = oneBitRow(known->first);
     }
-    QImage& row = bar_rows_[bytesOf(pixels)];
-    if (row.isNull()) {
-        row = oneBitRow(pixels);
+    return known->second;
+}
+
+// The same image is handed out for each stamp of a picture: it is then stored once in a job.
+QImage PictureMarks::keptImage(const Picture& picture, const QRect& crop) {
+    std::erase_if(kept_, [](const Kept& kept) { return kept.picture.expired(); });
+    const auto known = std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) {
+        return samePicture(kept.picture, picture) && kept.crop == crop;
+    });
+    if (known != kept_.end()) {
+        return known->image;
     }
-    return row;
+    return kept_.emplace_back(Kept{picture, crop, imageOf(*picture, crop)}).image;
 }
 
 } // namespace etiquetas

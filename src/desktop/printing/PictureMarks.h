@@ -4,14 +4,12 @@
 #include "platform/Picture.h"
 #include "platform/PrintSurface.h"
 
-#include <QByteArray>
-#include <QHash>
 #include <QImage>
 #include <QRect>
 #include <QRectF>
 
+#include <map>
 #include <memory>
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -27,24 +25,18 @@ class PictureMarks {
     void stamp(LabelPage& page, const Picture& picture, const QRect& crop, const QRectF& place);
 
   private:
-    // Rows of a crop, the first one being 0. Without an image they are white.
-    struct Band {
-        int first;
-        int end;
-        std::optional<QImage> image;
-    };
     struct Kept {
         std::weak_ptr<const Raster> picture;
         QRect crop;
-        std::vector<Band> bands;
+        QImage image;
     };
 
-    [[nodiscard]] const std::vector<Band>& bandsOf(const Picture& picture, const QRect& crop);
-    [[nodiscard]] std::vector<Band> barBands(const Raster& picture, const QRect& crop);
-    [[nodiscard]] std::optional<QImage> barRow(std::span<const Pixel> pixels);
+    void stampBars(LabelPage& page, const Raster& picture, const QRect& crop, const QRectF& place);
+    [[nodiscard]] QImage keptRow(std::span<const Pixel> pixels);
+    [[nodiscard]] QImage keptImage(const Picture& picture, const QRect& crop);
 
     std::vector<Kept> kept_;
-    QHash<QByteArray, QImage> bar_rows_; // by their pixels
+    std::map<std::vector<bool>, QImage> rows_; // by their modules, true where they are dark
 };
 
 } // namespace etiquetas

@@ -1,6 +1,7 @@
 #include "desktop/printing/PrintJob.h"
 
 #include "desktop/machine/Apart.h"
+#include "desktop/machine/KeptHeap.h"
 #include "desktop/machine/PrintSystem.h"
 #include "desktop/printing/JobPulse.h"
 #include "desktop/printing/PrintFailure.h"
@@ -166,7 +167,9 @@ int PrintJob::resolution() const {
 
 LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
     if (page_ended_) {
+        const std::size_t as_before = pages_.empty() ? 0 : pages_.back().marks.size();
         pages_.push_back({.size = size, .marks = {}});
+        pages_.back().marks.reserve(as_before);
         page_ended_ = false;
     }
     return pages_.back();
@@ -205,6 +208,7 @@ void PrintJob::send(JobPulse& pulse) {
 }
 
 void PrintJob::write(const QString& path, JobPulse& pulse) {
+    const KeptHeap heap;
     QPdfWriter writer(path);
     writer.setResolution(built_in_resolution);
     writer.setPageMargins(QMarginsF());
