@@ -34,10 +34,14 @@ if [ "$purpose" = test ]; then
 elif [ "$purpose" = check ]; then
     packages+=(
         clang clang-format clang-tidy # the other compiler, form and style
-        libgtest-dev libgmock-dev libbenchmark-dev libzxing-dev
+        libgtest-dev libgmock-dev libbenchmark-dev libzxing-dev libzint-dev
     )
 elif [ "$purpose" = bench ]; then
-    packages+=(libbenchmark-dev)
+    packages+=(
+        libbenchmark-dev          # benchmark framework
+        mawk libzint-dev glabels  # peers of loading, bars and label files
+        python3 strace            # runs them, and counts listings of a folder
+    )
 elif [ "$purpose" = fuzz ]; then
     packages+=(
         clang libclang-rt-dev llvm # compiler, sanitizers and libFuzzer, coverage

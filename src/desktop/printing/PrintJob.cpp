@@ -1,9 +1,11 @@
 #include "desktop/printing/PrintJob.h"
 
 #include "desktop/machine/Apart.h"
+#include "desktop/machine/KeptHeap.h"
 #include "desktop/machine/PrintSystem.h"
 #include "desktop/printing/JobPulse.h"
 #include "desktop/printing/PrintFailure.h"
+#include "desktop/printing/ShapedTexts.h"
 
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -79,6 +81,7 @@ bool startPage(QPagedPaintDevice& device, const QPageSize& size, QPainter& paint
 bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const QPageSize& own_page,
                const std::function<void(std::size_t labels)>& tell) {
     QPainter painter;
+    ShapedTexts texts;
     std::size_t labels = 0;
     for (const LabelPage& page : pages) {
         tell(labels);
@@ -87,7 +90,7 @@ bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const QPageSi
         }
         const double dots = device.logicalDpiX() / millimetres_per_inch;
         painter.setWorldTransform(QTransform::fromScale(dots, dots));
-        draw(painter, page);
+        draw(painter, page, texts);
         labels += page.labels;
     }
     return true;
@@ -174,7 +177,9 @@ int PrintJob::resolution() const {
 
 LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
     if (page_ended_) {
+        const std::size_t as_before = pages_.empty() ? 0 : pages_.back().marks.size();
         pages_.push_back({.size = size, .marks = {}});
+        pages_.back().marks.reserve(as_before);
         page_ended_ = false;
     }
     return pages_.back();
@@ -183,6 +188,7 @@ LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
 void PrintJob::endPage(std::size_t labels) {
     if (!page_ended_) {
         pages_.back().labels = labels;
+        pages_.back().marks.shrink_to_fit();
         page_ended_ = true;
     }
 }
@@ -212,6 +218,7 @@ void PrintJob::send() {
 }
 
 void PrintJob::write(const QString& path) {
+    const KeptHeap heap;
     QPdfWriter writer(path);
     writer.setResolution(built_in_resolution);
     writer.setPageMargins(QMarginsF());
