@@ -35,6 +35,8 @@ elif [ "$purpose" = check ]; then
     packages+=(
         clang clang-format clang-tidy # the other compiler, form and style
         libgtest-dev libgmock-dev libbenchmark-dev libzxing-dev
+        dpkg-dev file                     # packages
+        appstream desktop-file-utils      # what they tell desktops
     )
 elif [ "$purpose" = bench ]; then
     packages+=(libbenchmark-dev)

@@ -26,6 +26,9 @@ class StatusGuide {
 
     /// The print system did not tell its printers at the start.
     void printersMissing() { printers_missing_ = true; }
+    /// What there is to know of the folder: a notice stands until an order has been read, a warning
+    /// for good.
+    void tellFolder(const QString& text, bool is_warning);
     /// An order file was read; what it holds is on the form when the event has ended.
     void orderRead(const QString& path) { read_ = path; }
     void jobBegins() { is_printing_ = true; }
@@ -55,6 +58,8 @@ class StatusGuide {
 
     const FrmPadrao& form_;
     bool printers_missing_ = false;
+    QString folder_;
+    bool folder_fails_ = false;
     std::optional<QString> read_;      // file, since the last event
     QString file_;                     // of the order on the form
     EntryList all_items_;              // of the order, as it was read
