@@ -85,7 +85,7 @@ check_archive() {
     as_user "$home" "$folder/etiquetas" --pedido "$order" --tipo Oculta --impressora PDF \
         > /dev/null 2> "$told" || true # the order is not there yet
     grep -qF "Pasta de trabalho criada: $home/$user_data" "$told" || fail "the folder is not named"
-    expect_files "$home/$user_data" Varesko.ini lumira.jpg imagens impressos
+    expect_files "$home/$user_data" Varesko.ini lumira.jpg imagens/3104527.jpg impressos
     grep -q '^Mx4045_2=40' "$home/$user_data/Varesko.ini" || fail "the settings were not brought"
 }
 

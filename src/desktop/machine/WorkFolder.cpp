@@ -10,6 +10,9 @@
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
+#include <filesystem>
+#include <system_error>
+
 namespace etiquetas {
 
 using namespace Qt::StringLiterals;
@@ -51,10 +54,23 @@ void bring(const QDir& from, TextView name, const QDir& folder) {
     }
 }
 
+// They may be many: their folder is linked to, where that can be had.
+void bringPhotographs(const QDir& from, const QDir& folder) {
+    const QString name = toQString(photograph_folder);
+    if (from.exists(name)) {
+        std::error_code failed;
+        std::filesystem::create_directory_symlink(
+            QFileInfo(from.filePath(name)).filesystemCanonicalFilePath(),
+            QFileInfo(folder.filePath(name)).filesystemFilePath(), failed);
+    }
+}
+
 void layOut(const QDir& folder) {
-    (void)folder.mkpath(toQString(photograph_folder));
+    const QDir own(QCoreApplication::applicationDirPath());
     (void)folder.mkpath(u"impressos"_s);
-    for (const QDir& from : {QDir(QCoreApplication::applicationDirPath()), installedData()}) {
+    bringPhotographs(own, folder);
+    (void)folder.mkpath(toQString(photograph_folder));
+    for (const QDir& from : {own, installedData()}) {
         for (const TextView name : {brisako_logo, lumira_logo, settings_file}) {
             bring(from, name, folder);
         }

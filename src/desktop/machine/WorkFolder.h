@@ -18,8 +18,8 @@ struct WorkFolder {
 [[nodiscard]] QString workFolderPath(const QString& named);
 
 /// The same folder, ready to work in: that of the user is laid out where it is missing, with
-/// folders for photographs and written jobs, and with the logos and the settings that the program
-/// brings. Nothing fails here: what can't be laid out or written is told by the result.
+/// folders for photographs and written jobs, and with the logos, the settings and the photographs
+/// that the program brings. Nothing fails here: what can't be laid out or written is told by the result.
 [[nodiscard]] WorkFolder openWorkFolder(const QString& named);
 
 /// What the operator is to know of the folder, in Portuguese; empty where that is nothing.
