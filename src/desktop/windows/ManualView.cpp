@@ -52,6 +52,18 @@ void ManualView::showEvent(QShowEvent* event) {
     QTextBrowser::showEvent(event);
 }
 
+QVariant ManualView::loadResource(int type, const QUrl& name) {
+    QVariant found = QTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::ImageResource) {
+        return found;
+    }
+    const QImage picture = QImage::fromData(found.toByteArray());
+    const int room = viewport()->width() - verticalScrollBar()->sizeHint().width() -
+                     2 * static_cast<int>(document()->documentMargin());
+    return picture.width() <= room ? picture
+                                   : picture.scaledToWidth(room, Qt::SmoothTransformation);
+}
+
 bool ManualView::turnTo(const QString& link) {
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() > 0 && linkOf(block.text()) == link) {

@@ -18,6 +18,9 @@ class ManualView final : public QTextBrowser {
     /// other marks. False where there is none.
     bool turnTo(const QString& link);
 
+    /// Of the pictures, each as wide as the window shows it at most.
+    QVariant loadResource(int type, const QUrl& name) override;
+
   protected:
     void showEvent(QShowEvent* event) override;
 };
