@@ -6,7 +6,7 @@
 #   with beside it, and samples to try it out. The archive is made of it.
 include(GNUInstallDirs)
 
-set(data_folder ${CMAKE_INSTALL_DATADIR}/etiquetas)
+set(models_folder ${CMAKE_INSTALL_DATADIR}/etiquetas/modelos) # known to desktop/machine/WorkFolder.cpp
 # The operator's manual with its pictures.
 file(GLOB manual CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/*.png)
 list(APPEND manual ${PROJECT_SOURCE_DIR}/docs/manual-do-operador.md)
@@ -25,7 +25,7 @@ endfunction()
 
 # The system's layout.
 install(TARGETS etiquetas RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT system)
-install(FILES samples/brisako.jpg samples/lumira.jpg DESTINATION ${data_folder} COMPONENT system)
+install(FILES samples/brisako.jpg samples/lumira.jpg DESTINATION ${models_folder} COMPONENT system)
 foreach(size 16 22 24 32 48 64 128 256)
     install(FILES src/desktop/icons/etiquetas-${size}.png RENAME etiquetas.png
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps COMPONENT system)

@@ -89,6 +89,15 @@ check_archive() {
     grep -q '^Mx4045_2=40' "$home/$user_data/Varesko.ini" || fail "the settings were not brought"
 }
 
+# A folder of programs is no place to work in, even for the user whose own it is.
+check_own_prefix() {
+    local home=$place/home-own
+    cmake --install "$build" --prefix "$home/.local" > /dev/null
+    as_user "$home" "$home/.local/bin/etiquetas" --pedido "$order" --tipo Oculta > /dev/null 2>&1 || true
+    expect_files "$home/$user_data" Varesko.ini lumira.jpg imagens impressos
+    [ ! -e "$home/.local/bin/Varesko.ini" ] || fail "the program works among the programs"
+}
+
 # The bare root takes this machine's packages for installed, so that what the package depends on must
 # be among those that scripts/install_packages.sh installs.
 install_package() {
@@ -151,6 +160,7 @@ check_told_data
 check_portable
 make_packages
 check_archive
+check_own_prefix
 install_package
 check_printing
 check_removal

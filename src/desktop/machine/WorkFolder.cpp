@@ -26,15 +26,15 @@ bool canWrite(const QString& folder) {
     return trial.open();
 }
 
-// What an installation brings beside its programs. Its folder of programs is shared with others,
+// What an installation brings for new work folders. Its folder of programs is shared with others,
 // so that it is nobody's place to work in, even for a user who may write it.
-QDir installedData() {
-    return QDir(QCoreApplication::applicationDirPath() + u"/../share/etiquetas"_s);
+QDir installedModels() {
+    return QDir(QCoreApplication::applicationDirPath() + u"/../share/etiquetas/modelos"_s);
 }
 
 bool isPortable() {
     const QString own = QCoreApplication::applicationDirPath();
-    const bool is_shared = QFileInfo(own).fileName() == u"bin"_s && installedData().exists();
+    const bool is_shared = QFileInfo(own).fileName() == u"bin"_s && installedModels().exists();
     return !is_shared && canWrite(own);
 }
 
@@ -44,7 +44,11 @@ QString usersFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/etiquetas"_s;
 }
 
-// Names are told apart by their letters alone, whatever their case.
+bool hasSettings(const QString& folder) {
+    return !QDir(folder).entryList({toQString(settings_file)}, QDir::Files).isEmpty();
+}
+
+// Filters of names don't tell upper from lower case.
 void bring(const QDir& from, TextView name, const QDir& folder) {
     for (const QFileInfo& file : from.entryInfoList({toQString(name)}, QDir::Files)) {
         const QString copy = folder.filePath(toQString(name));
@@ -70,7 +74,7 @@ void layOut(const QDir& folder) {
     (void)folder.mkpath(u"impressos"_s);
     bringPhotographs(own, folder);
     (void)folder.mkpath(toQString(photograph_folder));
-    for (const QDir& from : {own, installedData()}) {
+    for (const QDir& from : {own, installedModels()}) {
         for (const TextView name : {brisako_logo, lumira_logo, settings_file}) {
             bring(from, name, folder);
         }
@@ -88,7 +92,7 @@ QString workFolderPath(const QString& named) {
 
 WorkFolder openWorkFolder(const QString& named) {
     WorkFolder folder{.path = workFolderPath(named)};
-    if (!QFileInfo::exists(folder.path)) {
+    if (folder.path == usersFolder() && !hasSettings(folder.path)) {
         layOut(QDir(folder.path));
         folder.is_new = true;
     }

@@ -17,9 +17,10 @@ struct WorkFolder {
 /// the user's data. The toolkit's application must exist.
 [[nodiscard]] QString workFolderPath(const QString& named);
 
-/// The same folder, ready to work in: that of the user is laid out where it is missing, with
-/// folders for photographs and written jobs, and with the logos, the settings and the photographs
-/// that the program brings. Nothing fails here: what can't be laid out or written is told by the result.
+/// The same folder, ready to work in: that of the user is laid out where it has no settings yet,
+/// with folders for photographs and written jobs, and with the logos, the settings and the
+/// photographs that the program brings. Nothing fails here: what can't be laid out or written is
+/// told by the result.
 [[nodiscard]] WorkFolder openWorkFolder(const QString& named);
 
 /// What the operator is to know of the folder, in Portuguese; empty where that is nothing.
