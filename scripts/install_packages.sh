@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for a purpose: "run" (build the program and run it),
 # "test" (build and run the tests as well), "check" (look at form and style, and build with Clang),
-# "bench" (build and run the benchmarks) or "fuzz" (build and run the fuzz targets). With nothing
-# missing it only looks, and is quick.
+# "bench" (build and run the benchmarks), "fuzz" (build and run the fuzz targets) or "package" (make
+# packages and check them). With nothing missing it only looks, and is quick.
 set -euo pipefail
 
 case "${1:-}" in
-    run | test | check | bench | fuzz) purpose=$1 ;;
+    run | test | check | bench | fuzz | package) purpose=$1 ;;
     *)
-        echo "usage: ${0##*/} run|test|check|bench|fuzz" >&2
+        echo "usage: ${0##*/} run|test|check|bench|fuzz|package" >&2
         exit 2
         ;;
 esac
@@ -35,6 +35,11 @@ elif [ "$purpose" = check ]; then
     packages+=(
         clang clang-format clang-tidy # the other compiler, form and style
         libgtest-dev libgmock-dev libbenchmark-dev libzxing-dev libzint-dev
+    )
+elif [ "$purpose" = package ]; then
+    packages+=(
+        dpkg-dev file                # what a program depends on
+        appstream desktop-file-utils # what an installation tells desktops
     )
 elif [ "$purpose" = bench ]; then
     packages+=(

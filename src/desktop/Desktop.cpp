@@ -273,6 +273,15 @@ bool Desktop::close() {
     return true;
 }
 
+void Desktop::tellFolder(const WorkFolder& folder) {
+    const QString notice = etiquetas::tellFolder(folder);
+    if (!notice.isEmpty()) {
+        folder.is_writable ? log_.info(notice) : log_.warning(notice);
+        guide_.tellFolder(notice, !folder.is_writable);
+        showStatus();
+    }
+}
+
 void Desktop::start() {
     bridge_.run([this] { FrmPadrao_load(form_); });
     if (!exit_code_) {

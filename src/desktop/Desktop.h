@@ -9,6 +9,7 @@
 #include "desktop/machine/QtFiles.h"
 #include "desktop/machine/QtPictures.h"
 #include "desktop/machine/QtPrinters.h"
+#include "desktop/machine/WorkFolder.h"
 #include "desktop/preview/PreviewWindow.h"
 #include "desktop/printing/QtPrintSurface.h"
 #include "desktop/records/JobHistory.h"
@@ -41,6 +42,8 @@ class Desktop {
     /// log "etiquetas.log".
     explicit Desktop(const QString& folder);
 
+    /// Tells the operator what there is to know of the folder, at the foot of the window.
+    void tellFolder(const WorkFolder& folder);
     /// Runs the start-up and shows the window.
     void start();
 

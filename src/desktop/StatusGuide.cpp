@@ -74,6 +74,11 @@ std::optional<std::size_t> placeOf(const Text& item, const EntryList& items) {
 
 } // namespace
 
+void StatusGuide::tellFolder(const QString& text, bool is_warning) {
+    folder_ = text;
+    folder_fails_ = is_warning;
+}
+
 void StatusGuide::jobEnded(const EndedJob& job) {
     printers_missing_ = false;
     is_printing_ = false;
@@ -97,6 +102,9 @@ void StatusGuide::look() {
         lines_ = form_.List1.entries.size();
         taken_lines_.clear();
         has_order_ = true;
+        if (!folder_fails_) {
+            folder_.clear();
+        }
         if (!has_job_) {
             job_.reset();
         }
@@ -233,6 +241,9 @@ QStringList StatusGuide::happenings() const {
     if (printers_missing_) {
         told << u"O sistema de impressão não respondeu: só há PDF e pré-visualização"_s;
     }
+    if (!folder_.isEmpty()) {
+        told << folder_;
+    }
     return told;
 }
 
@@ -246,8 +257,8 @@ StatusMood StatusGuide::mood() const {
     if (job_ && !job_->delivered) {
         return StatusMood::failed;
     }
-    const bool warns = printers_missing_ || !taken_lines_.isEmpty() || !printed_before_.isEmpty() ||
-                       (job_ && job_->cut_off > 0);
+    const bool warns = printers_missing_ || folder_fails_ || !taken_lines_.isEmpty() ||
+                       !printed_before_.isEmpty() || (job_ && job_->cut_off > 0);
     if (warns) {
         return StatusMood::warning;
     }

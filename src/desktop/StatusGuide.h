@@ -32,6 +32,9 @@ class StatusGuide {
     void found(std::optional<std::size_t> findings) { findings_ = findings; }
     /// The print system did not tell its printers at the start.
     void printersMissing() { printers_missing_ = true; }
+    /// What there is to know of the folder: a notice stands until an order has been read, a warning
+    /// for good.
+    void tellFolder(const QString& text, bool is_warning);
     /// An order file was read; what it holds is on the form when the event has ended.
     void orderRead(const QString& path) { read_ = path; }
     void jobBegins() { is_printing_ = true; }
@@ -68,6 +71,8 @@ class StatusGuide {
     std::optional<std::size_t> findings_;
     QString printed_before_; // the loaded item
     bool printers_missing_ = false;
+    QString folder_;
+    bool folder_fails_ = false;
     std::optional<QString> read_;      // file, since the last event
     QString file_;                     // of the order on the form
     Text kind_;                        // after the last event

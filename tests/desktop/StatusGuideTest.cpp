@@ -62,6 +62,18 @@ TEST_F(StatusGuideTest, leadsThroughAnOrderAndTellsWhatWasPrintedUntilAnotherIte
     EXPECT_EQ(guide.text().happened, QString());
 }
 
+TEST_F(StatusGuideTest, namesTheFolderUntilAnOrderIsReadAndWarnsOfItForGood) {
+    guide.tellFolder(u"criada"_s, false);
+    EXPECT_EQ(guide.text().happened, u"criada"_s);
+    EXPECT_EQ(guide.text().mood, StatusMood::plain);
+    loadOrder(tipo::oculta);
+    EXPECT_EQ(guide.text().happened, QString());
+    guide.tellFolder(u"fechada"_s, true);
+    loadOrder(tipo::oculta);
+    EXPECT_EQ(guide.text().happened, u"fechada"_s);
+    EXPECT_EQ(guide.text().mood, StatusMood::warning);
+}
+
 TEST_F(StatusGuideTest, tellsTheLineOfAnotherItemThatIsTakenOffTheOrder) {
     loadOrder(tipo::oculta);
     form.cmb_referencia.choose(1);

@@ -108,6 +108,7 @@ bool PrintRun::choosePrinter() {
 bool PrintRun::load() {
     taken_off_ = 0;
     is_whole_ = true;
+    machine_.forgetFolders();
     return loadOrder(machine_.form(), options_.order, options_.kind);
 }
 
@@ -146,6 +147,7 @@ bool PrintRun::standOn(int number) {
         if (!wholeOrderStands(number)) {
             return false;
         }
+        machine_.forgetFolders(); // the item before may have been printing for long
         chooseItem(machine_.form(), number - 1 - taken_off_);
         return true;
     } catch (const Failure& failure) {
