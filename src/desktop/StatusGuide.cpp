@@ -230,8 +230,7 @@ StatusMood StatusGuide::mood() const {
     if (job_ && !job_->delivered) {
         return StatusMood::failed;
     }
-    const bool warns = printers_missing_ || !taken_lines_.isEmpty() ||
-                       (job_ && job_->cut_off > 0);
+    const bool warns = printers_missing_ || !taken_lines_.isEmpty() || (job_ && job_->cut_off > 0);
     if (warns) {
         return StatusMood::warning;
     }
