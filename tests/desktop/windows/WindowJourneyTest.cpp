@@ -24,7 +24,8 @@ class Scene : public SampleWindow {
         seen_settings_ = settingLines();
     }
 
-    QString answer; // to questions; without one the button that is ready
+    QString answer;            // to questions; without one the button that is ready
+    QWidget* window = nullptr; // that the operator is at
 
     void start() {
         open();
@@ -34,7 +35,7 @@ class Scene : public SampleWindow {
     /// What the last step has changed.
     Lines changes() {
         if (desktop) {
-            turnToActiveWindow();
+            turnToOpenDialog();
             tellWindows();
             tellJobs();
             tellStatus();
@@ -70,16 +71,14 @@ class Scene : public SampleWindow {
              (proposed != nullptr ? u": "_s + proposed->text().remove(u'&') : u""_s));
     }
 
-    // The preview comes to the front, and the operator goes back to where the job came from.
-    void turnToActiveWindow() {
+    // The operator goes to a dialog that opens, and stays there until it is closed.
+    void turnToOpenDialog() {
         if (!desktop->exitCode()) {
-            for (const DialogWindow* const dialog : desktop->dialogs()) {
-                dialog_ = dialog->isActiveWindow() ? dialog : dialog_;
+            window = &desktop->window();
+            for (DialogWindow* const dialog : desktop->dialogs()) {
+                window = dialog->isVisible() ? dialog : window;
             }
-            const bool is_left =
-                desktop->window().isActiveWindow() || (dialog_ != nullptr && dialog_->isHidden());
-            dialog_ = is_left ? nullptr : dialog_;
-            worker.turnTo(dialog_ == nullptr ? u""_s : dialog_->objectName());
+            worker.turnTo(window->objectName());
         } else if (!std::exchange(ended_, true)) {
             tell(u"ends with %1"_s.arg(*desktop->exitCode()));
         }
@@ -136,7 +135,6 @@ class Scene : public SampleWindow {
     }
 
     Lines told_;
-    const QWidget* dialog_ = nullptr; // that the operator is at
     bool ended_ = false;
     QString seen_preview_;
     std::set<QString> seen_jobs_;
@@ -193,7 +191,7 @@ const std::map<QString, Step> steps{
     {u"answer"_s, [](Scene& on, const QString& button) { on.answer = button; }},
     {u"pick"_s, [](Scene& on, const QString& folder) {
         on.worker.willPick(on.folder.filePath(folder)); }},
-    {u"close"_s, [](Scene&, const QString&) { QApplication::activeWindow()->close(); }},
+    {u"close"_s, [](Scene& on, const QString&) { on.window->close(); }},
 };
 // clang-format on
 
