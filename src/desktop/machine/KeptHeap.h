@@ -12,6 +12,8 @@ class KeptHeap {
     ~KeptHeap();
     KeptHeap(const KeptHeap&) = delete;
     KeptHeap& operator=(const KeptHeap&) = delete;
+    KeptHeap(KeptHeap&&) = delete;
+    KeptHeap& operator=(KeptHeap&&) = delete;
 };
 
 } // namespace etiquetas
