@@ -1,7 +1,7 @@
 #include "desktop/console/PrintRun.h"
 
-#include "tests/desktop/SampleWindow.h"
 #include "desktop/console/ConsoleText.h"
+#include "tests/desktop/SampleWindow.h"
 
 #include <gtest/gtest.h>
 

@@ -26,8 +26,8 @@ QImage drawn(const Draw& draw) {
 } // namespace
 
 TEST(ShapedTexts, drawsEachTextInEachFontAsThePainterDoesHoweverOften) {
-    const LabelFont plain(u"Liberation Sans"_s, false, 1.0);
-    const LabelFont bold(u"Liberation Sans"_s, true, 1.0);
+    const LabelFont plain({u"Liberation Sans"_s}, false);
+    const LabelFont bold({u"Liberation Sans"_s}, true);
     ShapedTexts texts;
     for (int round = 1; round <= 2; ++round) {
         for (const QString& text : {u"TÊNIS fi 139,99"_s, u"  AVTo "_s, u"a\tb\u00ADc\u00A0d"_s,
