@@ -35,7 +35,7 @@ class PaperWorkbench {
 
     test::FakePlatform machine_;
     QtPictures pictures_;
-    QtPrinters printers_;
+    QtPrinters printers_{QStringList(), QString()}; // the built-in devices alone
     QtPrintSurface surface_;
 
   public:

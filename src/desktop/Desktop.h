@@ -53,6 +53,8 @@ class Desktop {
     [[nodiscard]] const FrmPadrao& form() const { return form_; }
     [[nodiscard]] PreviewWindow& preview() { return preview_; }
     [[nodiscard]] FindingsWindow& findings() { return findings_; }
+    /// True as long as the loaded order is looked through for findings.
+    [[nodiscard]] bool isReviewing() const { return review_.isWorking(); }
     [[nodiscard]] ProgressWindow& progress() { return progress_; }
     /// Brings the window to the front, and a box that stands over it.
     void comeToFront();

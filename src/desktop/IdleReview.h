@@ -31,6 +31,8 @@ class IdleReview {
     /// Looks through what is left at once, and gives all findings.
     const std::vector<Finding>& finish();
 
+    /// True while there is an order to look through at once.
+    [[nodiscard]] bool isWorking() const { return timer_.isActive(); }
     /// Findings of the whole order; nothing as long as it has not been looked through.
     [[nodiscard]] std::optional<std::size_t> count() const;
 

@@ -34,6 +34,9 @@ class Scene : public SampleWindow {
 
     /// What the last step has changed.
     Lines changes() {
+        while (desktop && desktop->isReviewing() && !desktop->exitCode()) {
+            QCoreApplication::processEvents();
+        }
         if (desktop) {
             turnToOpenDialog();
             tellWindows();
