@@ -12,6 +12,7 @@
 
 #include <array>
 #include <cstdio>
+#include <exception>
 
 namespace {
 
@@ -157,5 +158,10 @@ int main(int argc, char** argv) {
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QDir output(QString::fromLocal8Bit(argv[2]));
     output.mkpath(QStringLiteral("."));
-    return Demonstration(QString::fromLocal8Bit(argv[1]), output).run();
+    try {
+        return Demonstration(QString::fromLocal8Bit(argv[1]), output).run();
+    } catch (const std::exception& fault) {
+        std::fprintf(stderr, "etiquetas_demo: %s\n", fault.what());
+        return 1;
+    }
 }

@@ -2,11 +2,13 @@
 
 #include <QLibrary>
 
+#ifdef Q_OS_UNIX
 #include <filesystem>
 #include <netinet/in.h>
 #include <string_view>
 #include <sys/socket.h>
 #include <sys/un.h>
+#endif
 
 namespace etiquetas {
 
@@ -23,6 +25,7 @@ Function* fromCups(const char* name) {
     return reinterpret_cast<Function*>(cups.resolve(name));
 }
 
+#ifdef Q_OS_UNIX
 // Where the print system answers: a socket in the file system, or a port of some machine.
 struct PrintServer {
     std::string_view name;
@@ -51,6 +54,7 @@ bool leadsTo(const PrintServer& server, int file) {
         return false;
     }
 }
+#endif
 
 } // namespace
 
@@ -66,6 +70,7 @@ QString printSystemError() {
     return told != nullptr ? QString::fromLocal8Bit(told) : QString::number(status());
 }
 
+#ifdef Q_OS_UNIX
 void breakOffPrintSystem() {
     auto* const name = fromCups<const char*()>("cupsServer");
     auto* const port = fromCups<int()>("ippPort");
@@ -81,5 +86,9 @@ void breakOffPrintSystem() {
         }
     }
 }
+#else
+// Where there is no CUPS a job is handed to the system at once.
+void breakOffPrintSystem() {}
+#endif
 
 } // namespace etiquetas
