@@ -29,7 +29,7 @@ bool canWrite(const QString& folder) {
 // What an installation brings for new work folders. Its folder of programs is shared with others,
 // so that it is nobody's place to work in, even for a user who may write it.
 QDir installedModels() {
-    return QDir(QCoreApplication::applicationDirPath() + u"/../share/etiquetas/modelos"_s);
+    return {QCoreApplication::applicationDirPath() + u"/../share/etiquetas/modelos"_s};
 }
 
 bool isPortable() {

@@ -105,13 +105,15 @@ void PictureMarks::stamp(LabelPage& page, const Picture& picture, const QRect& c
 void PictureMarks::stampBars(LabelPage& page, const Raster& picture, const QRect& crop,
                              const QRectF& place) {
     const double row_height = place.height() / crop.height();
-    for (int row = crop.top(), end = row; row <= crop.bottom(); row = end) {
-        end = bandEnd(picture, crop, row);
+    int row = crop.top();
+    while (row <= crop.bottom()) {
+        const int end = bandEnd(picture, crop, row);
         const QRectF band(place.left(), place.top() + (row - crop.top()) * row_height,
                           place.width(), (end - row) * row_height);
         const auto pixels = rowOf(picture, crop, row);
         page.marks.push_back(hasInk(pixels) ? Mark(ImageMark{band, keptRow(pixels)})
                                             : Mark(BoxMark{band, Qt::white}));
+        row = end;
     }
 }
 
