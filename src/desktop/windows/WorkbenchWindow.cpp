@@ -76,7 +76,7 @@ WorkbenchWindow::WorkbenchWindow() : status_(new StatusLine) {
     }
     new FocusRing(*this);
     addKeys();
-    connect(qApp, &QApplication::focusChanged, this,
+    connect(qApp, &QApplication::focusChanged, &focus_watch_,
             [this](QWidget* /*before*/, QWidget* now) { showFocused(now); });
     // Not where the label kind is: leaving that would load the last order before another is typed.
     form.txtarquivo->setFocus();

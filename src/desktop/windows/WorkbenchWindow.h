@@ -77,6 +77,7 @@ class WorkbenchWindow final : public QMainWindow {
     std::function<void()> resized_ = [] {};
     std::function<void()> show_folder_ = [] {};
     std::function<void()> show_findings_ = [] {};
+    QObject focus_watch_; // ends before the widgets, among which the focus moves as they end
 };
 
 } // namespace etiquetas

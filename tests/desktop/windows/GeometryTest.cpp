@@ -25,7 +25,7 @@ double luminance(const QColor& colour) {
 
 // Contrast of two colours as WCAG 2.1 defines it, 1 to 21.
 double contrast(const QColor& one, const QColor& other) {
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
