@@ -145,20 +145,21 @@ class Stall {
         if (deadline_()) {
             return true;
         }
-        if (!end_) {
-            end_.emplace(std::chrono::seconds(1));
+        if (!std::exchange(is_broken_off_, true)) {
+            end_ = Deadline(std::chrono::seconds(1));
         }
         breakOffPrintSystem();
-        return (*end_)();
+        return end_();
     }
 
-    [[nodiscard]] bool isBrokenOff() const { return end_.has_value(); }
+    [[nodiscard]] bool isBrokenOff() const { return is_broken_off_; }
 
   private:
     std::chrono::milliseconds patience_;
     std::size_t labels_ = 0;
     Deadline deadline_{patience_};
-    std::optional<Deadline> end_;
+    Deadline end_{patience_}; // once it is broken off
+    bool is_broken_off_ = false;
 };
 
 } // namespace
