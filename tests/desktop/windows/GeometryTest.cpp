@@ -145,7 +145,7 @@ class GeometryTest : public SmallOrderTest, public testing::WithParamInterface<L
         QWidget& window = desktop->window();
         window.windowHandle()->setScreen(&screen);
         window.move(screen.availableGeometry().topLeft());
-        QCoreApplication::processEvents();
+        settle();
         const auto& panels = worker.widget<QWidget>(u"panels"_s);
         const QWidget& sight = *panels.parentWidget();
         EXPECT_LE(panels.width(), sight.width());

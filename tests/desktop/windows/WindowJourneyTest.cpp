@@ -34,10 +34,8 @@ class Scene : public SampleWindow {
 
     /// What the last step has changed.
     Lines changes() {
-        while (desktop && desktop->isReviewing() && !desktop->exitCode()) {
-            QCoreApplication::processEvents();
-        }
         if (desktop) {
+            settle();
             turnToOpenDialog();
             tellWindows();
             tellJobs();
