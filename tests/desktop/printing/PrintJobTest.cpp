@@ -90,7 +90,7 @@ class PrintJobTest : public testing::Test {
 };
 
 TEST_F(PrintJobTest, givesUpAPrintServerThatNeverAnswers) {
-    constexpr PrintJob::Patience patience{500};
+    static constexpr PrintJob::Patience patience{500};
     QTcpServer server; // nobody takes what it gets
     server.listen(QHostAddress::LocalHost);
     server.pauseAccepting();
