@@ -24,25 +24,10 @@
 
 namespace etiquetas {
 
-namespace {
-
-// No window shows yet, so that a print system that takes long has a sign of its own, by which it
-// can be done without.
-QtPrinters foundPrinters() {
-    constexpr std::chrono::milliseconds without_sign{500};
-    ProgressWindow sign;
-    return QtPrinters(
-        [&sign, soon = Deadline(without_sign), in_time = Deadline(print_system_patience)] {
-            return soon() || (in_time() && sign.tell(nullptr, 0, 0, true));
-        });
-}
-
-} // namespace
-
 Desktop::Desktop(const QString& folder)
     : log_(startedLog(folder)),
       skipped_([this](const Failure& failure) { logSkipped(log_, failure); }), files_(folder),
-      printers_(foundPrinters()), surface_(printers_, folder), history_(folder),
+      surface_(printers_, folder), history_(folder),
       form_({printers_, surface_, recorded_messages_, pictures_, folder_memory_, focus_, pointer_,
              process_, folders_, commands_}),
       review_(form_, printers_, folder, [this] { return bridge_.isRunning(); }),
@@ -70,7 +55,6 @@ Desktop::Desktop(const QString& folder)
 }
 
 void Desktop::keepLog() {
-    logPrinters(log_, printers_);
     files_.onRead([this](TextView path, std::size_t bytes) {
         logFileRead(log_, path, bytes);
         if (toQString(path).endsWith(QStringLiteral(".txt"), Qt::CaseInsensitive)) {
@@ -103,9 +87,6 @@ void Desktop::guideOperator() {
         record(job);
     });
     messages_.doubtBy([this](const Message& message) { return doubtOf(message); });
-    if (!printers_.answered()) {
-        guide_.printersMissing();
-    }
     openBy([](const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
     guide_.historyBy([this] { return tellEarlierJob(); });
     review_.onEnd([this] {
@@ -162,9 +143,6 @@ void Desktop::openPreview() {
         previewed_ = isTestPrint(form_) ? std::nullopt : std::optional(shownItem(form_));
         preview_.showJob(job);
     });
-    std::vector<PrintTarget> printers = printers_.targets();
-    std::erase_if(printers, [](const PrintTarget& each) { return each.device == Device::preview; });
-    preview_.offer(std::move(printers));
     preview_.onSave([this](const PreviewedJob& job, const QString& path) {
         deliverAgain([&](JobDelivery& delivery) { delivery.save(job, path); });
     });
@@ -282,8 +260,32 @@ void Desktop::tellFolder(const WorkFolder& folder) {
     }
 }
 
+// They have been asked for since the windows are made. What takes long is waited for behind the
+// window, with a sign by which printers can be done without.
+void Desktop::listPrinters() {
+    constexpr std::chrono::milliseconds without_window{200};
+    const auto goes_on = [this, soon = Deadline(without_window),
+                          in_time = Deadline(print_system_patience)] {
+        return soon() || (in_time() && progress_.tell(windowUnderBoxes(), 0, 0, true));
+    };
+    printers_.take(toldPrinters(std::move(asked_printers_), goes_on));
+    progress_.rest();
+    logPrinters(log_, printers_);
+    if (!printers_.answered()) {
+        guide_.printersMissing();
+    }
+    std::vector<PrintTarget> printers = printers_.targets();
+    std::erase_if(printers, [](const PrintTarget& each) { return each.device == Device::preview; });
+    preview_.offer(std::move(printers));
+}
+
 void Desktop::start() {
-    bridge_.run([this] { FrmPadrao_load(form_); });
+    bridge_.run([this] {
+        FrmPadrao_resize(form_); // the window has its size, whatever it waits for
+        bridge_.pushAll();
+        listPrinters();
+        FrmPadrao_load(form_);
+    });
     if (!exit_code_) {
         window_.show();
     }

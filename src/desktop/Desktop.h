@@ -30,6 +30,7 @@
 #include <QString>
 
 #include <functional>
+#include <future>
 #include <optional>
 #include <vector>
 
@@ -44,7 +45,8 @@ class Desktop {
 
     /// Tells the operator what there is to know of the folder, at the foot of the window.
     void tellFolder(const WorkFolder& folder);
-    /// Runs the start-up and shows the window.
+    /// Lists the machine's printers, runs the start-up and shows the window; before that only where
+    /// the print system takes its time, or the start-up has something to tell.
     void start();
 
     [[nodiscard]] WorkbenchWindow& window() { return window_; }
@@ -66,6 +68,7 @@ class Desktop {
 
   private:
     void keepLog();
+    void listPrinters();
     void bridgeWindows();
     [[nodiscard]] QWidget* windowUnderBoxes();
     void guideOperator();
@@ -84,6 +87,7 @@ class Desktop {
     void end(int exit_code);
     void endOnFailure(const QString& description);
 
+    std::future<MachinePrinters> asked_printers_ = askForPrinters();
     Log log_;
     SkipObserver skipped_;
     QtFiles files_;

@@ -114,12 +114,14 @@ void StatusGuide::look() {
 void StatusGuide::eventEnded(bool in_item_list) {
     look();
     noteTakenLine();
-    noteLoadedItem(in_item_list);
+    const bool is_other_item = loadsOtherItem(in_item_list);
     const bool is_other_kind = std::exchange(kind_, form_.cmbtipo.text) != form_.cmbtipo.text;
     order_changed_ = has_order_ || is_other_kind;
     if (order_changed_) {
-        printed_before_ = history_();
         findings_.reset();
+    }
+    if (order_changed_ || is_other_item) {
+        printed_before_ = history_();
     }
     has_order_ = false;
     has_job_ = false;
@@ -146,9 +148,9 @@ void StatusGuide::noteTakenLine() {
 }
 
 // Leaving a list loads its item, unless the list is blank.
-void StatusGuide::noteLoadedItem(bool in_item_list) {
+bool StatusGuide::loadsOtherItem(bool in_item_list) {
     if (family() == nullptr) {
-        return;
+        return false;
     }
     const Text& item = (form_.*family()->items).text;
     picked_ = toQString(item);
@@ -156,17 +158,14 @@ void StatusGuide::noteLoadedItem(bool in_item_list) {
     if (isBlank(item)) {
         printed_before_.clear();
     }
-    if (!is_loaded || isBlank(item)) {
-        return;
-    }
-    if (std::exchange(loaded_, item) == item) {
-        return;
+    if (!is_loaded || isBlank(item) || std::exchange(loaded_, item) == item) {
+        return false;
     }
     place_ = placeOf(loaded_, all_items_);
-    printed_before_ = history_();
     if (!has_job_) {
         job_.reset();
     }
+    return true;
 }
 
 bool StatusGuide::isNotLoaded() const {

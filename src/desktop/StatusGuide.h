@@ -60,7 +60,8 @@ class StatusGuide {
     [[nodiscard]] const OrderFamily* family() const;
     [[nodiscard]] const EntryList& items() const;
     void noteTakenLine();
-    void noteLoadedItem(bool in_item_list);
+    // True where the event that ends has loaded another item than the one before.
+    [[nodiscard]] bool loadsOtherItem(bool in_item_list);
     [[nodiscard]] QString orderText() const;
     [[nodiscard]] QString itemText() const;
     [[nodiscard]] QStringList happenings() const;

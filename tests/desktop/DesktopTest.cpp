@@ -1,5 +1,6 @@
 #include "desktop/Desktop.h"
 
+#include "Faults.h"
 #include "SampleWindow.h"
 #include "support/Golden.h"
 
@@ -88,6 +89,23 @@ TEST_F(DesktopTest, removesOldDraftsAndNothingElseAtItsStart) {
     EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
                             [](const auto& line) { return line.find("removido") < line.size(); }),
               2);
+}
+
+TEST_F(DesktopTest, showsItsWindowWhileThePrintSystemIsWaitedForAndGoesOnWithoutIt) {
+    const SilentPrintServer server;
+    bool stands = false;
+    QTimer clerk;
+    clerk.start(10);
+    QObject::connect(&clerk, &QTimer::timeout, [&] {
+        if (desktop && desktop->progress().isVisible()) {
+            stands = desktop->window().isVisible() && desktop->form().CMBPRINTER.entries.empty();
+            desktop->progress().reject();
+        }
+    });
+    open();
+    EXPECT_TRUE(stands);
+    EXPECT_EQ(worker.text(u"CMBPRINTER"_s), u"PDF"_s);
+    EXPECT_TRUE(worker.text(u"status_happened"_s).contains(u"não respondeu"_s));
 }
 
 // What a closing question says of its job.

@@ -4,11 +4,13 @@
 #include "desktop/machine/QtText.h"
 
 #include <QString>
+#include <QTcpServer>
 #include <gtest/gtest.h>
 
 #include <csignal>
 #include <functional>
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace etiquetas::test {
 
@@ -24,6 +26,23 @@ inline void onFullDisk(const std::function<void()>& deed) {
     deed();
     setrlimit(RLIMIT_FSIZE, &limit);
 }
+
+/// A print server that lets itself be called and never answers, as long as the object lives.
+class SilentPrintServer {
+  public:
+    SilentPrintServer() {
+        server_.listen(QHostAddress::LocalHost);
+        server_.pauseAccepting(); // nobody takes what it gets
+        // Open to the end of the program: those who wait are left behind.
+        EXPECT_GE(dup(static_cast<int>(server_.socketDescriptor())), 0);
+        qputenv("CUPS_SERVER", "127.0.0.1:" + QByteArray::number(server_.serverPort()));
+    }
+    ~SilentPrintServer() { qunsetenv("CUPS_SERVER"); }
+    Q_DISABLE_COPY_MOVE(SilentPrintServer)
+
+  private:
+    QTcpServer server_;
+};
 
 /// The deed must fail with this number, and tell what it is about.
 inline void expectFailure(std::int32_t number, TextView about, const std::function<void()>& deed) {

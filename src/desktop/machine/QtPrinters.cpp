@@ -24,12 +24,29 @@ PrintTarget builtIn(Device device, const QString& name, const QString& where,
 
 } // namespace
 
-QtPrinters::QtPrinters(const std::function<bool()>& goes_on) : QtPrinters(ask(goes_on)) {}
+std::future<MachinePrinters> askForPrinters() {
+    return begunApart([] {
+        return MachinePrinters{.names = QPrinterInfo::availablePrinterNames(),
+                               .default_name = QPrinterInfo::defaultPrinterName()};
+    });
+}
 
-QtPrinters::QtPrinters(const QStringList& machine, const QString& machine_default)
-    : QtPrinters(Machine{machine, machine_default}) {}
+MachinePrinters toldPrinters(std::future<MachinePrinters> asked,
+                             const std::function<bool()>& goes_on) {
+    return awaited(std::move(asked), goes_on).value_or(MachinePrinters{.answered = false});
+}
 
-QtPrinters::QtPrinters(const Machine& machine) : answered_(machine.answered) {
+QtPrinters::QtPrinters(const std::function<bool()>& goes_on) {
+    take(toldPrinters(askForPrinters(), goes_on));
+}
+
+QtPrinters::QtPrinters(const QStringList& machine, const QString& machine_default) {
+    take({.names = machine, .default_name = machine_default});
+}
+
+void QtPrinters::take(const MachinePrinters& machine) {
+    answered_ = machine.answered;
+    targets_.clear();
     std::transform(machine.names.begin(), machine.names.end(), std::back_inserter(targets_),
                    [](const QString& name) { return PrintTarget{name}; });
     const auto place = machine.names.indexOf(machine.default_name);
@@ -37,16 +54,6 @@ QtPrinters::QtPrinters(const Machine& machine) : answered_(machine.answered) {
     current_ = default_;
     targets_.push_back(builtIn(Device::pdf_file, u"PDF"_s, u"impressos"_s, machine.names));
     targets_.push_back(builtIn(Device::preview, u"Pré-visualização"_s, u"janela"_s, machine.names));
-}
-
-QtPrinters::Machine QtPrinters::ask(const std::function<bool()>& goes_on) {
-    const auto machine = apart(
-        [] {
-            return Machine{QPrinterInfo::availablePrinterNames(),
-                           QPrinterInfo::defaultPrinterName()};
-        },
-        goes_on);
-    return machine.value_or(Machine{.names = {}, .default_name = {}, .answered = false});
 }
 
 std::vector<Text> QtPrinters::names() const {

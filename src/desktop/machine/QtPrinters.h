@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <future>
 #include <vector>
 
 namespace etiquetas {
@@ -24,15 +25,35 @@ struct PrintTarget {
     friend bool operator==(const PrintTarget&, const PrintTarget&) = default;
 };
 
+/// What the machine tells of its printers.
+struct MachinePrinters {
+    QStringList names{};
+    QString default_name{};
+    bool answered = true; // false where the print system did not tell them in time
+};
+
+/// Begins to ask the machine for its printers, on a thread of its own.
+[[nodiscard]] std::future<MachinePrinters> askForPrinters();
+
+/// What the machine has told, which is waited for; no printers where it has told nothing when
+/// `goes_on`, which is asked every few milliseconds, says no.
+[[nodiscard]] MachinePrinters toldPrinters(std::future<MachinePrinters> asked,
+                                           const std::function<bool()>& goes_on);
+
 /// The machine's printers in its order, and the built-in devices at the end. The list is taken
 /// once: a place in it always means the same printer.
 class QtPrinters final : public Printers {
   public:
+    /// The built-in devices alone.
+    QtPrinters() { take({}); }
     /// The printers that the machine has now; none where its print system has not told them when
     /// `goes_on`, which is asked every few milliseconds, says no.
     explicit QtPrinters(const std::function<bool()>& goes_on);
     /// The printers with these device names, one of which is the default unless its name is empty.
     QtPrinters(const QStringList& machine, const QString& machine_default);
+
+    /// Lists these printers. To be called before anybody has looked at the list.
+    void take(const MachinePrinters& machine);
 
     [[nodiscard]] std::vector<Text> names() const override;
     [[nodiscard]] Text defaultName() const override;
@@ -48,15 +69,6 @@ class QtPrinters final : public Printers {
     [[nodiscard]] std::size_t selections() const { return selections_; }
 
   private:
-    struct Machine {
-        QStringList names;
-        QString default_name;
-        bool answered = true;
-    };
-
-    explicit QtPrinters(const Machine& machine);
-    [[nodiscard]] static Machine ask(const std::function<bool()>& goes_on);
-
     std::vector<PrintTarget> targets_;
     bool answered_ = true;
     std::size_t default_ = 0;

@@ -38,9 +38,9 @@ constexpr double franklin_ascent = 1854.0 / 2048;
 //
 // Calibri: Carlito is drawn to the same advances, letter by letter.
 //
-// Franklin Gothic Medium: its capitals take 0.591 em and its digits 0.578 em, as measured against
-// the face by the widths of texts published for it, which scatter by about 2 % (0.873 and 1.04 of
-// Liberation Sans). Its bold letters are the same ones thickened, and no wider. By their tables of
+// Franklin Gothic Medium: its capitals take 0.591 em and its digits 0.578 em, as worked out from
+// published widths of texts set in it, which scatter by about 2 % (0.873 and 1.04 of Liberation
+// Sans). Its bold letters are the same ones thickened, and no wider. By their tables of
 // advances the stand-ins take, capitals and digits: Open Sans 0.629 and 0.572 em, bold 0.663 and
 // 0.571; DejaVu Sans Condensed 0.605 and 0.572, bold 0.679 and 0.626. Scaled, the capitals of all
 // are within 1 % of the face; the digits are narrow, those of Open Sans by 7 %, bold by 11 %, of

@@ -7,6 +7,7 @@
 #include "desktop/printing/PrintFailure.h"
 #include "desktop/printing/ShapedTexts.h"
 
+#include <QLocale>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
@@ -29,7 +30,8 @@ const QString job_name = u"Etiquetas"_s;
 
 QString noAnswer(const QString& printer, PrintJob::Patience patience) {
     return u"O sistema de impressão não respondeu em %1 segundos (impressora \"%2\")."_s
-        .arg(std::chrono::duration<double>(patience).count())
+        .arg(QLocale(QLocale::Portuguese, QLocale::Brazil)
+                 .toString(std::chrono::duration<double>(patience).count()))
         .arg(printer);
 }
 

@@ -7,8 +7,6 @@
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 namespace etiquetas::test {
 
 // A print server with one queue, which answers all but new jobs. It lives on the thread of the
@@ -91,17 +89,11 @@ class PrintJobTest : public testing::Test {
 
 TEST_F(PrintJobTest, givesUpAPrintServerThatNeverAnswers) {
     static constexpr PrintJob::Patience patience{500};
-    QTcpServer server; // nobody takes what it gets
-    server.listen(QHostAddress::LocalHost);
-    server.pauseAccepting();
-    // Open to the end of the program: those who wait are left behind.
-    EXPECT_GE(dup(static_cast<int>(server.socketDescriptor())), 0);
-    qputenv("CUPS_SERVER", "127.0.0.1:" + QByteArray::number(server.serverPort()));
-    expectFailure(failure_number::printer, u"não respondeu em 0.5 segundos",
+    const SilentPrintServer server;
+    expectFailure(failure_number::printer, u"não respondeu em 0,5 segundos",
                   [this] { PrintJob(queue, pulse, {}, patience); });
     EXPECT_GT(beats, 5) << "the windows lived";
     EXPECT_FALSE(QtPrinters(Deadline(patience)).answered());
-    qunsetenv("CUPS_SERVER");
 }
 
 TEST_F(PrintJobTest, breaksOffASubmissionThatIsGivenUpSoThatItIsNotPrintedLater) {
