@@ -121,7 +121,7 @@ class Table:
         self.rows = []
 
     def add(self, what, before, measured, goal, met):
-        judged = "" if self.smoke else "met" if met else "missed"
+        judged = "" if self.smoke or goal == "-" else "met" if met else "missed"
         self.rows.append((what, before, measured, goal, judged))
 
     def add_missing(self, what, before, goal, reason):
@@ -333,11 +333,14 @@ def measure_start(build, work, run, table):
     empty = [build / "bench" / "etiquetas_bench_empty"]
     cpu_of(start, env=environment)  # the first one makes what is missing
     told = run.medians(ours=lambda: cpu_of(start, env=environment),
-                       peer=lambda: cpu_of(empty, env=environment))
+                       peer=lambda: cpu_of(empty, env=environment),
+                       word=lambda: cpu_of([*empty, "Etiquetas"], env=environment))
     times = told["ours"] / told["peer"]
     table.add("exec to first frame beside an empty QMainWindow", BEFORE["start"],
               f"{times:.1f} times ({told['ours'] * 1e3:.0f} and {told['peer'] * 1e3:.0f} ms)",
               "2.3 times", times <= 2.3)
+    table.add("exec to first frame beside a QMainWindow with one word", "-",
+              f"{told['ours'] / told['word']:.1f} times ({told['word'] * 1e3:.0f} ms)", "-", None)
 
 
 def main():
