@@ -14,6 +14,7 @@
 #include <unistd.h>
 #else
 #include <io.h>
+#include <qt_windows.h>
 #endif
 
 namespace etiquetas {
@@ -51,9 +52,14 @@ std::error_code named(const QString& from, const QString& to) {
         return {renamed ? 0 : EEXIST, std::generic_category()};
     }
 #endif
+#ifdef Q_OS_WIN
+    const bool moved = MoveFileExW(pathOf(from).c_str(), pathOf(to).c_str(), MOVEFILE_WRITE_THROUGH);
+    return {moved ? 0 : static_cast<int>(GetLastError()), std::system_category()};
+#else
     std::error_code error;
     std::filesystem::create_hard_link(pathOf(from), pathOf(to), error);
     return error;
+#endif
 }
 
 } // namespace
