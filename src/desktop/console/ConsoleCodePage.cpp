@@ -8,17 +8,27 @@
 
 namespace etiquetas {
 
+namespace {
+
+constexpr unsigned int utf8 = 65001; // as Windows counts code pages
+
+// Sets the code page of the console and tells the one before.
+unsigned int setCodePage([[maybe_unused]] unsigned int page) {
 #ifdef Q_OS_WIN
-ConsoleCodePage::ConsoleCodePage() : before_(GetConsoleOutputCP()) {
-    SetConsoleOutputCP(CP_UTF8);
+    const unsigned int before = GetConsoleOutputCP();
+    SetConsoleOutputCP(page);
+    return before;
+#else
+    return utf8;
+#endif
 }
 
+} // namespace
+
+ConsoleCodePage::ConsoleCodePage() : before_(setCodePage(utf8)) {}
+
 ConsoleCodePage::~ConsoleCodePage() {
-    SetConsoleOutputCP(before_);
+    setCodePage(before_);
 }
-#else
-ConsoleCodePage::ConsoleCodePage() = default;
-ConsoleCodePage::~ConsoleCodePage() = default;
-#endif
 
 } // namespace etiquetas

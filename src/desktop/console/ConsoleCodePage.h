@@ -14,7 +14,7 @@ class ConsoleCodePage {
     ConsoleCodePage& operator=(ConsoleCodePage&&) = delete;
 
   private:
-    [[maybe_unused]] unsigned int before_ = 0;
+    unsigned int before_;
 };
 
 } // namespace etiquetas

@@ -13,8 +13,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 #else
-#include <io.h>
 #include <qt_windows.h>
+
+#include <io.h>
 #endif
 
 namespace etiquetas {
@@ -53,7 +54,8 @@ std::error_code named(const QString& from, const QString& to) {
     }
 #endif
 #ifdef Q_OS_WIN
-    const bool moved = MoveFileExW(pathOf(from).c_str(), pathOf(to).c_str(), MOVEFILE_WRITE_THROUGH);
+    const bool moved =
+        MoveFileExW(pathOf(from).c_str(), pathOf(to).c_str(), MOVEFILE_WRITE_THROUGH);
     return {moved ? 0 : static_cast<int>(GetLastError()), std::system_category()};
 #else
     std::error_code error;
