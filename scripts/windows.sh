@@ -4,6 +4,7 @@
 #
 #     windows.sh          makes the folder and the ZIP
 #     windows.sh --test   then prints with it under Wine, and compares that with what Linux prints
+#     windows.sh --print  only does that, with what is there, on the display that is there
 #
 # Debian has no Qt for MinGW, so that the first call builds it from Debian's source package, in about
 # an hour of one core. It is kept in ~/.cache/etiquetas-windows (or $ETIQUETAS_WINDOWS_CACHE) with the
@@ -172,8 +173,13 @@ zip_folder() {
     (cd $build && zip -qr etiquetas-windows.zip etiquetas)
 }
 
-under_wine() { # with a display of its own, in which windows open
-    xvfb-run -a /usr/lib/wine/wine64 "$@"
+under_wine() {
+    /usr/lib/wine/wine64 "$@"
+}
+
+fail() {
+    echo "windows.sh: $1" >&2
+    exit 1
 }
 
 # What the labels in a PDF file tell a reader: its pages, their size, and all bars on them.
@@ -182,75 +188,81 @@ describe() {
     pages=$(mktemp -d)
     pdfinfo "$1" | grep -E '^(Pages|Page size)'
     pdftoppm -r 203 -gray "$1" "$pages/page"
-    zbarimg -q "$pages"/* | sort
+    { zbarimg -q "$pages"/* || true; } | sort
     rm -r "$pages"
 }
 
-# The first folder is of Linux, the second of Windows.
-compare() {
-    local job printed=0
-    for job in "$1"/*.pdf; do
-        diff <(describe "$job") <(describe "$2/${job##*/}") ||
-            { echo "windows.sh: ${job##*/} is not as on Linux" >&2 && return 1; }
-        printed=$((printed + 1))
-    done
-    [ "$printed" -eq "$3" ] || { echo "windows.sh: $printed of $3 jobs came out" >&2 && return 1; }
-    echo "$printed jobs under Wine as on Linux: pages, sizes, $(describe_all "$2" | grep -c ':') bars"
-}
-
-describe_all() {
-    local job
-    for job in "$1"/*.pdf; do
-        describe "$job" | grep -v '^Page'
-    done
+# What the operator was told and asked, as the log has it behind date and time.
+told_in() {
+    sed -E 's/^.{24}//' "$1/etiquetas.log" | tr -d '\r' | grep -E '^(INFO  (Mensagem|Resposta)|ERRO)'
 }
 
 # Each label kind for both banners through the windows: ten jobs.
 test_windows() {
-    local linux=$build/demo-linux windows=$build/demo
-    rm -rf "$linux" "$windows"
-    cmake --install build/run --component portable --prefix "$linux/etiquetas" > /dev/null
+    local job jobs=0 bars=0
     QT_QPA_PLATFORM=offscreen build/run/bin/etiquetas_demo "$linux/etiquetas" "$linux" > "$linux.log"
-    mkdir -p "$windows"
-    cp -r "$folder" "$windows/etiquetas"
-    cp "$(find $build -name etiquetas_demo.exe)" "$windows/etiquetas/"
+    cp "$(find $build -path "$folder" -prune -o -name etiquetas_demo.exe -print | head -1)" \
+        "$windows/etiquetas/"
     add_libraries "$windows/etiquetas"
     (cd "$windows" && under_wine etiquetas/etiquetas_demo.exe etiquetas .) > "$windows.log"
-    compare "$linux" "$windows" 10
+    for job in "$linux"/*.pdf; do
+        describe "$job" > "$linux.txt"
+        describe "$windows/${job##*/}" > "$windows.txt"
+        diff "$linux.txt" "$windows.txt" || fail "${job##*/} is not as on Linux"
+        jobs=$((jobs + 1))
+        bars=$((bars + $(grep -c : "$windows.txt") - 2))
+    done
+    [ "$jobs" -eq 10 ] || fail "$jobs of 10 jobs came out: five label kinds for two banners"
+    diff <(told_in "$linux/etiquetas") <(told_in "$windows/etiquetas") ||
+        fail "the operator is not told the same as on Linux"
+    echo "$jobs jobs as on Linux: their pages, $bars bars, and all messages"
 }
 
-# A whole order from the command line; what it tells is the same, and so is its exit code.
+# A whole order, and a wrong use, from the command line.
 test_command_line() {
-    local linux=$build/demo-linux/etiquetas windows=$build/demo/etiquetas
-    local order=(--pedido 1400050831 --tipo Corrugado --impressora PDF)
-    rm -f "$linux"/impressos/* "$windows"/impressos/*
-    "$linux/etiquetas" "${order[@]}" > "$linux.txt"
-    under_wine "$windows/etiquetas.com" "${order[@]}" > "$windows.txt"
-    if "$linux/etiquetas" --pedido 1 --tipo Nada 2> "$linux.err" ||
-        under_wine "$windows/etiquetas.com" --pedido 1 --tipo Nada 2> "$windows.err"; then
-        echo "windows.sh: a kind that is none was taken" >&2
-        return 1
-    fi
-    diff "$linux.err" <(tr -d '\r' < "$windows.err")
-    echo "From the command line: $(wc -l < "$windows.txt") lines"
+    local order=(--pedido 1400050831 --tipo Corrugado --impressora PDF) wrong=(--pedido 1 --tipo Nada)
+    local own=$linux/etiquetas/etiquetas other=$windows/etiquetas/etiquetas.com code=0
+    "$own" "${order[@]}" --json > "$linux.txt"
+    under_wine "$other" "${order[@]}" --json > "$windows.txt"
+    diff <(grep -v '"destino"' "$linux.txt") <(tr -d '\r' < "$windows.txt" | grep -v '"destino"') ||
+        fail "the command line did not print as on Linux"
+    "$own" "${wrong[@]}" 2> "$linux.txt" || code=$?
+    under_wine "$other" "${wrong[@]}" 2> "$windows.txt" && fail "a kind that is none was taken"
+    [ "$?" -eq "$code" ] || fail "the exit code is not $code as on Linux"
+    diff "$linux.txt" <(tr -d '\r' < "$windows.txt") || fail "the command line tells something else"
+    echo "The command line as on Linux: an order printed, a wrong use told"
 }
 
-test_under_wine() {
+print_under_wine() {
     export WINEPREFIX=$project/$build/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
+    local linux=$project/$build/demo-linux windows=$project/$build/demo
     scripts/prepare.sh run run
     echo "== Printing under Wine"
+    rm -rf "$linux" "$windows"
+    mkdir -p "$windows"
+    cmake --install build/run --component portable --prefix "$linux/etiquetas" > /dev/null
+    cp -r "$folder" "$windows/etiquetas"
     test_windows
     test_command_line
+    /usr/lib/wine/wineserver64 -k # what Wine keeps running for later programs
 }
 
-scripts/install_packages.sh windows
-install_libraries
-echo "== Building the program for Windows (what the compiler says is in $build.log)"
-build_program
-echo "== Laying out $folder"
-lay_out
-zip_folder
-echo "== Written: $build/etiquetas-windows.zip"
-if [ "${1:-}" = --test ]; then
-    test_under_wine
-fi
+make_folder() {
+    scripts/install_packages.sh windows
+    install_libraries
+    echo "== Building the program for Windows (what the compiler says is in $build.log)"
+    build_program
+    echo "== Laying out $folder"
+    lay_out
+    zip_folder
+    echo "== Written: $build/etiquetas-windows.zip"
+}
+
+case "${1:-}" in
+    --print) print_under_wine ;;
+    --test)
+        make_folder
+        xvfb-run -a scripts/windows.sh --print
+        ;;
+    *) make_folder ;;
+esac
