@@ -23,8 +23,13 @@ function(install_licences component folder)
     endforeach()
 endfunction()
 
+set(programs etiquetas)
+if(WIN32)
+    list(APPEND programs etiquetas_console)
+endif()
+
 # The system's layout.
-install(TARGETS etiquetas RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT system)
+install(TARGETS ${programs} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT system)
 install(FILES samples/brisako.jpg samples/lumira.jpg DESTINATION ${models_folder} COMPONENT system)
 foreach(size 16 22 24 32 48 64 128 256)
     install(FILES src/desktop/icons/etiquetas-${size}.png RENAME etiquetas.png
@@ -45,7 +50,7 @@ install(DIRECTORY samples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/exemplos COMPONEN
     FILES_MATCHING PATTERN "*.txt" PATTERN "imagens/*.jpg")
 
 # The portable one.
-install(TARGETS etiquetas RUNTIME DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
+install(TARGETS ${programs} RUNTIME DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
 install(CODE "set(sample_folder \"${PROJECT_SOURCE_DIR}/samples\")"
     COMPONENT portable EXCLUDE_FROM_ALL)
 install(SCRIPT cmake/InstallSamples.cmake COMPONENT portable EXCLUDE_FROM_ALL)

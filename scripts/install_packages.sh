@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for a purpose: "run" (build the program and run it),
 # "test" (build and run the tests as well), "check" (look at form and style, and build with Clang),
-# "bench" (build and run the benchmarks), "fuzz" (build and run the fuzz targets) or "package" (make
-# packages and check them). With nothing missing it only looks, and is quick.
+# "bench" (build and run the benchmarks), "fuzz" (build and run the fuzz targets), "package" (make
+# packages and check them) or "windows" (build for Windows, and run that). With nothing missing it only
+# looks, and is quick.
 set -euo pipefail
 
 case "${1:-}" in
-    run | test | check | bench | fuzz | package) purpose=$1 ;;
+    run | test | check | bench | fuzz | package | windows) purpose=$1 ;;
     *)
-        echo "usage: ${0##*/} run|test|check|bench|fuzz|package" >&2
+        echo "usage: ${0##*/} run|test|check|bench|fuzz|package|windows" >&2
         exit 2
         ;;
 esac
@@ -51,6 +52,13 @@ elif [ "$purpose" = fuzz ]; then
     packages+=(
         clang libclang-rt-dev llvm # compiler, sanitizers and libFuzzer, coverage
         libzxing-dev               # reader of the printed bars
+    )
+elif [ "$purpose" = windows ]; then
+    packages+=(
+        g++-mingw-w64-x86-64-posix wine64 # compiler, and what runs its programs
+        googletest                        # test framework, in sources
+        dpkg-dev tcl                      # sources of libraries, and what makes those of SQLite
+        zip zbar-tools xvfb xauth         # the folder as one file; readers of what it prints
     )
 elif [ -n "${WAYLAND_DISPLAY:-}" ] && [ -z "${DISPLAY:-}" ]; then
     packages+=(qt6-wayland) # a desktop without X11

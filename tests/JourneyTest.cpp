@@ -276,7 +276,7 @@ static std::vector<JourneyFile> journeyFiles() {
         for (const auto& file :
              std::filesystem::directory_iterator(ETIQUETAS_JOURNEYS "/" + std::string(room))) {
             if (file.path().extension() == ".txt") {
-                files.push_back({file.path().stem(), file.path()});
+                files.push_back({file.path().stem().string(), file.path().string()});
             }
         }
     }

@@ -29,7 +29,7 @@ TEST(NumbersTest, TextsConvertToNumbers) {
     Log converted_texts;
     for (const GoldenLine& line : goldenLines(ETIQUETAS_GOLDENS "/numeros.txt")) {
         const std::string quoted = line.text.substr(0, line.text.rfind('"') + 1);
-        const Text text = std::filesystem::path(quoted.substr(1, quoted.size() - 2)).u16string();
+        const Text text = utf16(quoted.substr(1, quoted.size() - 2));
         converted_texts.push_back(quoted + (isNumeric(text) ? " numeric, " : " other, ") +
                                   converted([&] { return toSingle(text); }) + ", 16 bits " +
                                   converted([&] { return toInteger16(text); }));

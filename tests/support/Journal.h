@@ -12,11 +12,12 @@
 namespace etiquetas::test {
 
 inline std::string utf8(TextView text) {
-    return std::filesystem::path(text).string();
+    const std::u8string bytes = std::filesystem::path(text).u8string();
+    return {bytes.begin(), bytes.end()};
 }
 
 inline Text utf16(const std::string& text) {
-    return std::filesystem::path(text).u16string();
+    return std::filesystem::path(std::u8string(text.begin(), text.end())).u16string();
 }
 
 /// A text as the transcript has it.

@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/Version.h"
+#include "desktop/console/ConsoleCodePage.h"
 #include "desktop/console/ConsoleOptions.h"
 #include "desktop/console/ConsoleText.h"
 #include "desktop/console/Lists.h"
@@ -12,6 +13,7 @@
 #include "desktop/machine/WorkFolder.h"
 
 #include <QGuiApplication>
+#include <QSysInfo>
 
 #include <span>
 #include <string_view>
@@ -21,6 +23,14 @@ namespace etiquetas {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// The toolkit's platform without a display would not know the faces of Windows, whose usual one
+// needs no display until a window opens.
+void doWithoutDisplay() {
+    if (QSysInfo::kernelType() != u"winnt"_s) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
 
 // Only printing lays a folder out: looking changes nothing.
 QString folderFor(const ConsoleOptions& options) {
@@ -72,7 +82,8 @@ bool asksForConsole(int argc, const char* const* argv) {
 }
 
 int runConsole(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    doWithoutDisplay();
+    const ConsoleCodePage utf8;
     const QGuiApplication application(argc, argv);
     speakPortuguese();
     ReadOptions read = readOptions(QCoreApplication::arguments());

@@ -13,6 +13,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 #else
+#include <qt_windows.h>
+
 #include <io.h>
 #endif
 
@@ -51,9 +53,15 @@ std::error_code named(const QString& from, const QString& to) {
         return {renamed ? 0 : EEXIST, std::generic_category()};
     }
 #endif
+#ifdef Q_OS_WIN
+    const bool moved =
+        MoveFileExW(pathOf(from).c_str(), pathOf(to).c_str(), MOVEFILE_WRITE_THROUGH);
+    return {moved ? 0 : static_cast<int>(GetLastError()), std::system_category()};
+#else
     std::error_code error;
     std::filesystem::create_hard_link(pathOf(from), pathOf(to), error);
     return error;
+#endif
 }
 
 } // namespace

@@ -14,6 +14,10 @@
 #include <optional>
 #include <utility>
 
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#endif
+
 namespace etiquetas {
 
 using namespace Qt::StringLiterals;
@@ -24,12 +28,21 @@ bool shellKnowsCommandFiles() {
     return QSysInfo::kernelType() == u"winnt"_s;
 }
 
-// In a console window of its own. After "call" the path keeps its quotes: cmd.exe takes them off a
-// command that begins with them when it holds parentheses, as in "Program Files (x86)".
+// In a console window of its own, which fills the screen. After "call" the path keeps its quotes:
+// cmd.exe takes them off a command that begins with them when it holds parentheses, as in
+// "Program Files (x86)".
 void runInShell(const QString& command_file) {
-    QProcess::startDetached(u"cmd.exe"_s,
-                            {u"/c"_s, u"call"_s, QDir::toNativeSeparators(command_file)},
-                            QFileInfo(command_file).absolutePath());
+    QProcess shell;
+    shell.setProgram(u"cmd.exe"_s);
+    shell.setArguments({u"/c"_s, u"call"_s, QDir::toNativeSeparators(command_file)});
+    shell.setWorkingDirectory(QFileInfo(command_file).absolutePath());
+#ifdef Q_OS_WIN
+    shell.setCreateProcessArgumentsModifier([](QProcess::CreateProcessArguments* start) {
+        start->startupInfo->dwFlags |= STARTF_USESHOWWINDOW;
+        start->startupInfo->wShowWindow = SW_SHOWMAXIMIZED;
+    });
+#endif
+    shell.startDetached();
 }
 
 // Its arguments go as they are, through no shell; what it prints is dropped.

@@ -64,7 +64,8 @@ constexpr std::array stand_ins{
     StandIn{u"Malgun Gothic Semilight", {u"Open Sans Light", 0.974}, {u"Open Sans", 0.974}},
 };
 
-constexpr TextView general_family = u"Liberation Sans";
+// As wide as one another letter by letter: that of Linux and that of Windows.
+constexpr std::array<TextView, 2> general_families{u"Liberation Sans", u"Arial"};
 
 bool contains(const QStringList& families, TextView family) {
     return families.contains(toQString(family), Qt::CaseInsensitive);
@@ -98,7 +99,12 @@ FontChoice chooseFont(TextView face, bool bold, const QStringList& families) {
     if (const auto stand_in = standInFor(face, bold, families)) {
         return *stand_in;
     }
-    return {contains(families, general_family) ? toQString(general_family) : QFont().family()};
+    for (const TextView general : general_families) {
+        if (contains(families, general)) {
+            return {toQString(general)};
+        }
+    }
+    return {QFont().family()};
 }
 
 QStringList offeredFaces(const QStringList& families) {

@@ -22,7 +22,7 @@ struct FontChoice {
 [[nodiscard]] QStringList installedFamilies();
 
 /// The family for a face, bold or not, out of those that are there: the face itself, else the first
-/// of its stand-ins, else the general one, else the toolkit's own choice.
+/// of its stand-ins, else a general one, else the toolkit's own choice.
 [[nodiscard]] FontChoice chooseFont(TextView face, bool bold, const QStringList& families);
 
 /// Faces that count as present: all families, and each face whose stand-in has the same metrics

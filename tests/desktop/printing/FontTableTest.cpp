@@ -43,7 +43,8 @@ static const std::vector<Choice> choices{
     {"the_second_stand_in", u"Franklin Gothic Semilight", false, {dejavu, open_light}, dejavu},
     {"a_regular_family_of_its_own", u"Malgun Gothic Semilight", false, stand_ins, open_light},
     {"a_bold_family_of_its_own", u"Malgun Gothic Semilight", true, stand_ins, open_sans},
-    {"the_general_family", u"No Such Face", false, stand_ins, liberation},
+    {"the_general_family", u"No Such Face", false, stand_ins + QStringList{u"Arial"_s}, liberation},
+    {"the_general_family_of_windows", u"Estrangelo Edessa", false, {dejavu, u"Arial"_s}, u"Arial"_s},
 };
 // clang-format on
 
