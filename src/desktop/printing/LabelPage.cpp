@@ -1,5 +1,7 @@
 #include "desktop/printing/LabelPage.h"
 
+#include "desktop/printing/WholeDots.h"
+
 #include <numeric>
 
 namespace etiquetas {
@@ -28,6 +30,15 @@ void drawMark(QPainter& painter, const BoxMark& mark) {
 
 void drawMark(QPainter& painter, const ImageMark& mark) {
     painter.drawImage(mark.place, mark.image);
+}
+
+void drawMark(QPainter& painter, const BarsMark& mark) {
+    if (const auto place = placeInWholeDots(mark.inkPlace(), mark.ink.width())) {
+        painter.fillRect(mark.place, Qt::white);
+        painter.drawImage(*place, mark.ink);
+    } else {
+        painter.drawImage(mark.place, mark.row);
+    }
 }
 
 } // namespace

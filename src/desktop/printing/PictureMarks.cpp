@@ -43,31 +43,39 @@ int bandEnd(const Raster& picture, const QRect& crop, int row) {
     return end;
 }
 
-QImage oneBitRow(std::span<const Pixel> pixels) {
-    QImage image(static_cast<int>(pixels.size()), 1, QImage::Format_Mono);
+// Columns from the first to the last that has ink in any row.
+QRect inkOf(const Raster& picture, const QRect& crop) {
+    auto left = static_cast<std::ptrdiff_t>(crop.width());
+    std::ptrdiff_t right = 0;
+    for (int row = crop.top(); row <= crop.bottom(); ++row) {
+        const auto pixels = rowOf(picture, crop, row);
+        const auto first = std::find(pixels.begin(), pixels.end(), black_pixel);
+        const auto past_last = std::find(pixels.rbegin(), pixels.rend(), black_pixel).base();
+        left = std::min(left, first - pixels.begin());
+        right = std::max(right, past_last - pixels.begin());
+    }
+    return {crop.left() + static_cast<int>(left), crop.top(), static_cast<int>(right - left),
+            crop.height()};
+}
+
+std::vector<bool> modulesOf(std::span<const Pixel> pixels) {
+    std::vector<bool> dark(pixels.size());
+    std::transform(pixels.begin(), pixels.end(), dark.begin(),
+                   [](Pixel pixel) { return pixel == black_pixel; });
+    return dark;
+}
+
+QImage oneBitRow(const std::vector<bool>& dark) {
+    QImage image(static_cast<int>(dark.size()), 1, QImage::Format_Mono);
     image.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
     for (int x = 0; x < image.width(); ++x) {
-        image.setPixel(x, 0, pixels[static_cast<std::size_t>(x)] == black_pixel ? 0 : 1);
+        image.setPixel(x, 0, dark[static_cast<std::size_t>(x)] ? 0 : 1);
     }
     return image;
 }
 
-Mark bandMark(std::span<const Pixel> pixels, const QRectF& place) {
-    const bool blank = std::find(pixels.begin(), pixels.end(), black_pixel) == pixels.end();
-    return blank ? Mark(BoxMark{place, Qt::white}) : Mark(ImageMark{place, oneBitRow(pixels)});
-}
-
-// Bars must stand on the page where the raster has them. An image one row high and one bit deep is
-// stretched so far that no program smooths it, and it is stored without loss.
-void stampBands(LabelPage& page, const Raster& picture, const QRect& crop, const QRectF& place) {
-    const double row_height = place.height() / crop.height();
-    for (int row = crop.top(); row <= crop.bottom();) {
-        const int end = bandEnd(picture, crop, row);
-        const QRectF band(place.left(), place.top() + (row - crop.top()) * row_height,
-                          place.width(), (end - row) * row_height);
-        page.marks.emplace_back(bandMark(rowOf(picture, crop, row), band));
-        row = end;
-    }
+bool hasInk(std::span<const Pixel> pixels) {
+    return std::find(pixels.begin(), pixels.end(), black_pixel) != pixels.end();
 }
 
 bool samePicture(const std::weak_ptr<const Raster>& kept, const Picture& picture) {
@@ -101,10 +109,44 @@ QRect cropOf(const Raster& picture, const SourceArea& source) {
 void PictureMarks::stamp(LabelPage& page, const Picture& picture, const QRect& crop,
                          const QRectF& place) {
     if (isBlackAndWhite(*picture, crop)) {
-        stampBands(page, *picture, crop, place);
+        stampBars(page, *picture, crop, place);
     } else {
         page.marks.emplace_back(ImageMark{place, keptImage(picture, crop)});
     }
+}
+
+// Bars must stand on the page where the raster has them. An image one row high and one bit deep is
+// stretched so far that no program smooths it, and it is stored without loss.
+void PictureMarks::stampBars(LabelPage& page, const Raster& picture, const QRect& crop,
+                             const QRectF& place) {
+    const double row_height = place.height() / crop.height();
+    const QRect ink = inkOf(picture, crop);
+    for (int row = crop.top(), end = row; row <= crop.bottom(); row = end) {
+        end = bandEnd(picture, crop, row);
+        const QRectF band(place.left(), place.top() + (row - crop.top()) * row_height,
+                          place.width(), (end - row) * row_height);
+        const auto pixels = rowOf(picture, crop, row);
+        if (hasInk(pixels)) {
+            page.marks.emplace_back(BarsMark{band, keptRow(pixels),
+                                             keptRow(rowOf(picture, ink, row)),
+                                             ink.left() - crop.left()});
+        } else {
+            page.marks.emplace_back(BoxMark{band, Qt::white});
+        }
+    }
+}
+
+// Equal rows are one image, whatever picture they are of: it is then stored once in a job.
+QImage PictureMarks::keptRow(std::span<const Pixel> pixels) {
+    constexpr std::size_t most_kept = 4096;
+    if (rows_.size() >= most_kept) {
+        rows_.clear();
+    }
+    const auto [known, is_new] = rows_.try_emplace(modulesOf(pixels));
+    if (is_new) {
+        known->second = oneBitRow(known->first);
+    }
+    return known->second;
 }
 
 // The same image is handed out for each stamp of a picture: it is then stored once in a job.

@@ -8,7 +8,9 @@
 #include <QRect>
 #include <QRectF>
 
+#include <map>
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace etiquetas {
@@ -29,9 +31,12 @@ class PictureMarks {
         QImage image;
     };
 
+    void stampBars(LabelPage& page, const Raster& picture, const QRect& crop, const QRectF& place);
+    [[nodiscard]] QImage keptRow(std::span<const Pixel> pixels);
     [[nodiscard]] QImage keptImage(const Picture& picture, const QRect& crop);
 
     std::vector<Kept> kept_;
+    std::map<std::vector<bool>, QImage> rows_; // by their modules, true where they are dark
 };
 
 } // namespace etiquetas
