@@ -1,0 +1,209 @@
+#include "desktop/printing/DotPage.h"
+
+#include "desktop/printing/WholeDots.h"
+
+#include <QGlyphRun>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace etiquetas {
+
+namespace {
+
+constexpr int black_bit = 0;
+constexpr int white_bit = 1;
+
+QImage blankDots(const QSize& size) {
+    QImage image(size, QImage::Format_Mono);
+    image.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
+    image.fill(white_bit);
+    return image;
+}
+
+QSize dotsOf(const QPageSize& size, int resolution) {
+    constexpr double points_to_inch = 72;
+    const QSizeF points = size.size(QPageSize::Point);
+    const auto whole = [resolution](double length) {
+        return static_cast<int>(std::ceil(length * resolution / points_to_inch));
+    };
+    return {whole(points.width()), whole(points.height())};
+}
+
+bool isDark(uchar tone) {
+    constexpr int darkest_grey = 64;
+    return tone < darkest_grey;
+}
+
+bool isLight(uchar tone) {
+    constexpr int lightest_grey = 192;
+    return tone >= lightest_grey;
+}
+
+// A grey pixel on the soft edge of a shape: both dark and light ones are near.
+bool isEdge(const QImage& grey, int x, int y) {
+    constexpr int near = 2; // pixels
+    const int left = std::max(0, x - near);
+    const int right = std::min(grey.width(), x + near + 1);
+    bool dark = false;
+    bool light = false;
+    for (int row = std::max(0, y - near); row < std::min(grey.height(), y + near + 1); ++row) {
+        const uchar* const tones = grey.constScanLine(row);
+        dark = dark || std::any_of(tones + left, tones + right, isDark);
+        light = light || std::any_of(tones + left, tones + right, isLight);
+    }
+    return dark && light;
+}
+
+// A picture whose greys are but the soft edges of black and white shapes, as those of a logo.
+bool isLineArt(const QImage& grey) {
+    constexpr int most_toned = 3; // of a hundred pixels
+    qint64 toned = 0;
+    for (int y = 0; y < grey.height(); ++y) {
+        const uchar* const row = grey.constScanLine(y);
+        for (int x = 0; x < grey.width(); ++x) {
+            toned += !isDark(row[x]) && !isLight(row[x]) && !isEdge(grey, x, y) ? 1 : 0;
+        }
+    }
+    return toned * 100 <= most_toned * qint64{grey.width()} * grey.height();
+}
+
+// Scaled smoothly first, so that the cut follows the shapes between the pixels.
+QImage cut(const QImage& grey, const QSize& size) {
+    constexpr int half = 128;
+    const QImage scaled = grey.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage dots = blankDots(size);
+    for (int y = 0; y < size.height(); ++y) {
+        const uchar* const row = scaled.constScanLine(y);
+        for (int x = 0; x < size.width(); ++x) {
+            dots.setPixel(x, y, row[x] < half ? black_bit : white_bit);
+        }
+    }
+    return dots;
+}
+
+QImage dithered(const QImage& grey, const QSize& size) {
+    return grey.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_Mono, Qt::MonoOnly | Qt::DiffuseDither);
+}
+
+QImage oneBit(const QImage& image, const QSize& size) {
+    const QImage grey = image.convertToFormat(QImage::Format_Grayscale8);
+    return isLineArt(grey) ? cut(grey, size) : dithered(grey, size);
+}
+
+} // namespace
+
+QImage DotPages::draw(const LabelPage& page, const QPageSize& own_size) {
+    QImage image = blankDots(dotsOf(page.size.value_or(own_size), resolution_));
+    QPainter painter(&image);
+    for (const Mark& mark : page.marks) {
+        std::visit([&](const auto& kind) { drawMark(painter, kind); }, mark);
+    }
+    return image;
+}
+
+double DotPages::dots(double millimetres) const {
+    return millimetres * resolution_ / millimetres_per_inch;
+}
+
+int DotPages::nearestDot(double millimetres) const {
+    return static_cast<int>(std::lround(dots(millimetres)));
+}
+
+QRect DotPages::nearestDots(const QRectF& place) const {
+    const int left = nearestDot(place.left());
+    const int top = nearestDot(place.top());
+    return {left, top, nearestDot(place.right()) - left, nearestDot(place.bottom()) - top};
+}
+
+// Letters of many dots keep their shapes, as do those that the font lacks, which the toolkit takes
+// from another one; those of few dots are fitted to them.
+void DotPages::drawMark(QPainter& painter, const TextMark& mark) {
+    constexpr double largest_fitted = 40; // dots to the em
+    const double em = dots(mark.scale * mark.font.pixelSize());
+    if (em > largest_fitted || !drawFitted(painter, mark, em)) {
+        painter.save();
+        painter.translate(dots(mark.baseline.x()), dots(mark.baseline.y()));
+        painter.scale(dots(mark.scale), dots(mark.scale));
+        painter.setFont(mark.font);
+        painter.drawText(QPointF(), mark.text);
+        painter.restore();
+    }
+}
+
+// False, and nothing drawn, where the font lacks a letter. The advances are those of the unfitted
+// letters, by which texts are measured.
+bool DotPages::drawFitted(QPainter& painter, const TextMark& mark, double em) {
+    const FittedFont& font = fittedFont(mark.font, em);
+    const QList<quint32> glyphs = font.fitted.glyphIndexesForString(mark.text);
+    if (glyphs.contains(0)) {
+        return false;
+    }
+    QList<QPointF> positions;
+    double x = dots(mark.baseline.x());
+    const int baseline = nearestDot(mark.baseline.y());
+    for (const QPointF advance : font.measured.advancesForGlyphIndexes(glyphs)) {
+        positions.emplace_back(std::round(x), baseline);
+        x += dots(advance.x() * mark.scale);
+    }
+    QGlyphRun run;
+    run.setRawFont(font.fitted);
+    run.setGlyphIndexes(glyphs);
+    run.setPositions(positions);
+    painter.drawGlyphRun(QPointF(), run);
+    return true;
+}
+
+const DotPages::FittedFont& DotPages::fittedFont(const QFont& font, double em) {
+    const FontKey key{font.families().value(0), font.bold(), em};
+    if (const auto known = fonts_.find(key); known != fonts_.end()) {
+        return known->second;
+    }
+    QFont hinted = font;
+    hinted.setHintingPreference(QFont::PreferFullHinting);
+    hinted.setStyleStrategy(QFont::NoAntialias);
+    QRawFont fitted = QRawFont::fromFont(hinted);
+    fitted.setPixelSize(em);
+    return fonts_.emplace(key, FittedFont{fitted, QRawFont::fromFont(font)}).first->second;
+}
+
+// A rule is as thick wherever it stands, and one dot at least.
+void DotPages::drawMark(QPainter& painter, const BoxMark& mark) const {
+    constexpr double thickest_rule = 1; // millimetre
+    constexpr int half = 128;
+    QRect box = nearestDots(mark.place);
+    if (mark.place.width() < thickest_rule) {
+        box.setWidth(std::max(1, nearestDot(mark.place.width())));
+    }
+    if (mark.place.height() < thickest_rule) {
+        box.setHeight(std::max(1, nearestDot(mark.place.height())));
+    }
+    painter.fillRect(box, qGray(mark.colour.rgb()) < half ? Qt::black : Qt::white);
+}
+
+void DotPages::drawMark(QPainter& painter, const ImageMark& mark) {
+    const QRect place = nearestDots(mark.place);
+    if (place.isEmpty()) {
+        return;
+    }
+    const ImageKey key{mark.image.cacheKey(), place.width(), place.height()};
+    auto known = images_.find(key);
+    if (known == images_.end()) {
+        known = images_.emplace(key, oneBit(mark.image, place.size())).first;
+    }
+    painter.drawImage(place.topLeft(), known->second);
+}
+
+// A stamp is opaque.
+void DotPages::drawMark(QPainter& painter, const BarsMark& mark) const {
+    const QRect whole = nearestDots(mark.place);
+    painter.fillRect(whole, Qt::white);
+    const QRectF ink = mark.inkPlace();
+    for (const DotBar& bar : barsInDots(mark.ink, ink.left(), ink.right(), resolution_)) {
+        painter.fillRect(bar.begin, whole.top(), bar.end - bar.begin, whole.height(), Qt::black);
+    }
+}
+
+} // namespace etiquetas
