@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for a purpose: "run" (build the program and run it),
 # "test" (build and run the tests as well), "check" (look at form and style, and build with Clang),
-# "bench" (build and run the benchmarks) or "fuzz" (build and run the fuzz targets). With nothing
-# missing it only looks, and is quick.
+# "bench" (build and run the benchmarks), "fuzz" (build and run the fuzz targets) or "measure"
+# (tools/print). With nothing missing it only looks, and is quick.
 set -euo pipefail
 
 case "${1:-}" in
-    run | test | check | bench | fuzz) purpose=$1 ;;
+    run | test | check | bench | fuzz | measure) purpose=$1 ;;
     *)
-        echo "usage: ${0##*/} run|test|check|bench|fuzz" >&2
+        echo "usage: ${0##*/} run|test|check|bench|fuzz|measure" >&2
         exit 2
         ;;
 esac
@@ -18,6 +18,7 @@ packages=(
     qt6-base-dev qt6-translations-l10n                     # window and printing
     libqt6sql6-sqlite                                      # history of the jobs
     libspdlog-dev                                          # log
+    libcups2-dev                                           # print system
     fonts-crosextra-carlito fonts-liberation fonts-open-sans # faces of the labels
     poppler-utils                                          # label pages as pictures
 )
@@ -30,6 +31,7 @@ if [ "$purpose" = test ]; then
         fonts-dejavu-extra        # a face's stand-in where the first one is missing
         xvfb xauth                # a display for the real window
         strace                    # system calls that fail
+        cups                      # a print server, and label drivers
     )
 elif [ "$purpose" = check ]; then
     packages+=(
@@ -43,6 +45,8 @@ elif [ "$purpose" = fuzz ]; then
         clang libclang-rt-dev llvm # compiler, sanitizers and libFuzzer, coverage
         libzxing-dev               # reader of the printed bars
     )
+elif [ "$purpose" = measure ]; then
+    packages+=(pkgconf libzbar-dev libzxing-dev) # decoders
 elif [ -n "${WAYLAND_DISPLAY:-}" ] && [ -z "${DISPLAY:-}" ]; then
     packages+=(qt6-wayland) # a desktop without X11
 fi

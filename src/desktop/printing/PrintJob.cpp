@@ -1,7 +1,10 @@
 #include "desktop/printing/PrintJob.h"
 
 #include "desktop/machine/Apart.h"
+#include "desktop/machine/DotJob.h"
+#include "desktop/machine/PrintHead.h"
 #include "desktop/machine/PrintSystem.h"
+#include "desktop/printing/DotPage.h"
 #include "desktop/printing/JobPulse.h"
 #include "desktop/printing/PrintFailure.h"
 
@@ -10,6 +13,7 @@
 #include <QPdfWriter>
 #include <QPrinterInfo>
 
+#include <algorithm>
 #include <atomic>
 #include <functional>
 #include <map>
@@ -24,6 +28,7 @@ namespace {
 constexpr int built_in_resolution = 1200; // dots to the inch
 
 const QString job_name = u"Etiquetas"_s;
+const QString not_begun = u"o trabalho não pôde ser iniciado"_s;
 
 QString noAnswer(const QString& printer) {
     return u"O sistema de impressão não respondeu em %1 segundos (impressora \"%2\")."_s
@@ -65,6 +70,9 @@ int resolutionOf(const QPrinter* printer) {
     return printer == nullptr ? built_in_resolution : printer->resolution();
 }
 
+// Whether the job is to go on, so many of its labels having been drawn.
+using GoesOn = std::function<bool(std::size_t labels)>;
+
 // Orientation stays portrait: a page wider than high is not turned then.
 bool startPage(QPagedPaintDevice& device, const QPageSize& size, QPainter& painter) {
     device.setPageSize(size);
@@ -74,7 +82,7 @@ bool startPage(QPagedPaintDevice& device, const QPageSize& size, QPainter& paint
 // Tells before each page how many labels have been drawn. False where the device takes no page, or
 // `goes_on` says no.
 bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const QPageSize& own_page,
-               const std::function<bool(std::size_t labels)>& goes_on) {
+               const GoesOn& goes_on) {
     QPainter painter;
     std::size_t labels = 0;
     for (const LabelPage& page : pages) {
@@ -116,18 +124,66 @@ LabelPages withOwnFonts(LabelPages pages) {
 struct Sending {
     std::atomic<std::size_t> labels = 0;
     std::atomic<bool> given_up = false;
+
+    bool goesOn(std::size_t sent) {
+        labels = sent;
+        return !given_up;
+    }
 };
 
-// Runs on a thread of its own. Tells why the print system has not taken the job; empty where it
-// has.
-QString sendPages(QPrinter& printer, const LabelPages& pages, Sending& sending) {
-    const auto goes_on = [&sending](std::size_t labels) {
-        sending.labels = labels;
-        return !sending.given_up;
+// A job on its way to the print system, on a thread of its own. It goes there once, as the dots of
+// the print head or else as the toolkit's document.
+struct Outgoing {
+    QString queue;
+    std::unique_ptr<QPrinter> printer;
+    std::optional<PrintHead> head; // that takes all pages
+    LabelPages pages;
+    std::shared_ptr<Sending> sending;
+
+    // Tells why the print system has not taken the job; empty where it has.
+    [[nodiscard]] QString operator()() const { return head ? sendDots() : sendDocument(); }
+
+  private:
+    [[nodiscard]] QString sendDots() const {
+        DotJob job(*head);
+        DotPages dots(head->resolution());
+        const QPageSize own_page = head->ownPage();
+        std::size_t labels = 0;
+        for (const LabelPage& page : pages) {
+            if (!sending->goesOn(labels) || !job.add(dots.draw(page, own_page), page.size)) {
+                return not_begun;
+            }
+            labels += page.labels;
+        }
+        return sending->goesOn(labels) ? job.send(queue, job_name) : not_begun;
+    }
+
+    [[nodiscard]] QString sendDocument() const {
+        const auto goes_on = [this](std::size_t labels) { return sending->goesOn(labels); };
+        const QPageSize own_page = printer->pageLayout().pageSize();
+        return drawPages(*printer, pages, own_page, goes_on) ? printSystemError() : not_begun;
+    }
+};
+
+bool takesAll(const PrintHead& head, const LabelPages& pages) {
+    const auto last_of_size = [](const LabelPage& one, const LabelPage& next) {
+        return one.size != next.size;
     };
-    const QPageSize own_page = printer.pageLayout().pageSize();
-    return drawPages(printer, pages, own_page, goes_on) ? printSystemError()
-                                                        : u"o trabalho não pôde ser iniciado"_s;
+    auto page = pages.begin();
+    while (page != pages.end() && head.pageHeader(page->size)) {
+        const auto last = std::adjacent_find(page, pages.end(), last_of_size);
+        page = last == pages.end() ? last : std::next(last);
+    }
+    return page == pages.end();
+}
+
+// The head behind a queue, where it takes each of the pages; none where the print system does not
+// tell it in time.
+std::optional<PrintHead> headFor(const QString& queue, const LabelPages& pages) {
+    const auto told =
+        apart([queue] { return PrintHead::ofQueue(queue); }, Deadline(print_system_patience));
+    const auto head = told.value_or(std::nullopt);
+    return head && takesAll(*head, pages) ? head : std::nullopt;
 }
 
 // Goes on as long as labels are drawn. The last step sends them all at once, which takes its time.
@@ -180,16 +236,16 @@ void PrintJob::endPage(std::size_t labels) {
 void PrintJob::send(JobPulse& pulse) {
     const auto sending = std::make_shared<Sending>();
     const std::size_t in_all = labelsOn(pages_);
+    auto head = headFor(target_.name, pages_);
     Stall stall(pages_.size());
     const auto goes_on = [&] {
         const std::size_t labels = sending->labels;
         pulse.step({.labels = labels, .in_all = in_all, .can_cancel = false});
         return stall(labels);
     };
-    const auto refusal =
-        apart([printer = std::move(printer_), pages = withOwnFonts(std::move(pages_)),
-               sending] { return sendPages(*printer, pages, *sending); },
-              goes_on);
+    const auto refusal = apart(Outgoing{target_.name, std::move(printer_), std::move(head),
+                                        withOwnFonts(std::move(pages_)), sending},
+                               goes_on);
     if (!refusal) {
         sending->given_up = true;
         throw printFailure(noAnswer(target_.name) +

@@ -98,7 +98,7 @@ TEST(PlaceInWholeDots, movesNoEdgeByMoreThanATenthOfAMillimetre) {
     ASSERT_TRUE(moved);
     EXPECT_NEAR(moved->left() / dot, 80.25, 1e-9);
     EXPECT_NEAR(moved->width() / dot, 189.5, 1e-9);
-    EXPECT_FALSE(placeInWholeDots(QRectF(10, 5, 27.9, 8), 95));
+    EXPECT_FALSE(placeInWholeDots(QRectF(80.31 * dot, 5, 188.4 * dot, 8), 95)) << "by 0.13 mm";
 }
 
 } // namespace etiquetas::test
