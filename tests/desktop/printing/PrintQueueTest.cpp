@@ -62,6 +62,21 @@ static QImage eplDots(Program program, const QSize& size) {
     return dots;
 }
 
+// CPCL: the same, a bit being ink.
+static QImage cpclDots(Program program, const QSize& size) {
+    QImage dots = paper(size.width(), size.height());
+    while (program.find("\nCG ")) {
+        const int bytes = program.number();
+        program.number();
+        program.number();
+        uchar* const row = dots.scanLine(program.number());
+        for (int i = 0; i < bytes; ++i) {
+            row[i] = static_cast<uchar>(~program.next());
+        }
+    }
+    return dots;
+}
+
 // ZPL: rows of hexadecimal digits, a bit being ink. A letter repeats the digit after it, a comma
 // ends a row in paper, a colon repeats the row before.
 static QImage zplDots(Program program, const QSize& size) {
@@ -139,6 +154,7 @@ TEST_P(LabelPrinterTest, getsTheVeryDotsOnce) {
 
 INSTANTIATE_TEST_SUITE_P(Drivers, LabelPrinterTest,
                          testing::Values(LabelPrinter{"epl", u"zebraep2"_s, eplDots, 812},
+                                         LabelPrinter{"cpcl", u"zebracpl"_s, cpclDots, 809},
                                          LabelPrinter{"zpl", u"zebra"_s, zplDots, 1269}),
                          CaseName());
 
