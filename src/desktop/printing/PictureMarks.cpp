@@ -121,8 +121,8 @@ void PictureMarks::stampBars(LabelPage& page, const Raster& picture, const QRect
                              const QRectF& place) {
     const double row_height = place.height() / crop.height();
     const QRect ink = inkOf(picture, crop);
-    for (int row = crop.top(), end = row; row <= crop.bottom(); row = end) {
-        end = bandEnd(picture, crop, row);
+    for (int row = crop.top(); row <= crop.bottom();) {
+        const int end = bandEnd(picture, crop, row);
         const QRectF band(place.left(), place.top() + (row - crop.top()) * row_height,
                           place.width(), (end - row) * row_height);
         const auto pixels = rowOf(picture, crop, row);
@@ -133,6 +133,7 @@ void PictureMarks::stampBars(LabelPage& page, const Raster& picture, const QRect
         } else {
             page.marks.emplace_back(BoxMark{band, Qt::white});
         }
+        row = end;
     }
 }
 
