@@ -15,7 +15,7 @@ display_answers() {
 }
 
 echo "== Laying out build/instalacao"
-cmake --install build/run --prefix build/instalacao > /dev/null
+cmake --install build/run --component portable --prefix build/instalacao > /dev/null
 
 if display_answers; then
     echo "== Opening the Workbench in build/instalacao"
@@ -24,7 +24,7 @@ fi
 
 echo "== No display: printing every label kind through the window, headless, into build/demo"
 rm -rf build/demo
-cmake --install build/run --prefix build/demo/instalacao > /dev/null
+cmake --install build/run --component portable --prefix build/demo/instalacao > /dev/null
 QT_QPA_PLATFORM=offscreen build/run/bin/etiquetas_demo build/demo/instalacao build/demo
 
 echo "== Turning the label pages into pictures, as a printer of 203 dpi sees them"

@@ -7,10 +7,12 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QMessageBox>
 #include <QPixmap>
 
 #include <array>
 #include <cstdio>
+#include <exception>
 
 namespace {
 
@@ -52,6 +54,7 @@ class Demonstration {
             }
             all_printed &= printWithPhotograph(order);
         }
+        picturePreview(QStringLiteral("1400050831"));
         tellBoxes();
         return all_printed ? 0 : 1;
     }
@@ -91,6 +94,22 @@ class Demonstration {
         operator_.widget<QComboBox>(QStringLiteral("cmbtipo"))
             .setEditText(QStringLiteral("Frente de Caixa100x40"));
         return print(QStringLiteral("frente-100x40-%1").arg(order));
+    }
+
+    // A job on no paper, with the question that stands while it is looked at.
+    void picturePreview(const QString& order) {
+        load(order, kinds.back());
+        const QString printers = QStringLiteral("CMBPRINTER");
+        const auto& list = operator_.widget<QComboBox>(printers);
+        operator_.choose(printers, list.findText(QStringLiteral("Pré-visualização")));
+        operator_.beforeAnswer([this] {
+            takePicture(desktop_.preview(), QStringLiteral("pre-visualizacao.png"));
+            if (QWidget* const box = QApplication::activeModalWidget()) {
+                takePicture(*box, QStringLiteral("pergunta.png"));
+            }
+        });
+        operator_.click(QStringLiteral("cmd_printacessorio"));
+        operator_.beforeAnswer([] {});
     }
 
     // Presses the Print command, and keeps the one job that it wrote.
@@ -139,5 +158,10 @@ int main(int argc, char** argv) {
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QDir output(QString::fromLocal8Bit(argv[2]));
     output.mkpath(QStringLiteral("."));
-    return Demonstration(QString::fromLocal8Bit(argv[1]), output).run();
+    try {
+        return Demonstration(QString::fromLocal8Bit(argv[1]), output).run();
+    } catch (const std::exception& fault) {
+        std::fprintf(stderr, "etiquetas_demo: %s\n", fault.what());
+        return 1;
+    }
 }

@@ -16,7 +16,7 @@ namespace etiquetas::fuzz {
 namespace {
 
 constexpr std::size_t most_pixels = 30'000'000;
-constexpr double most_seconds = 5; // by the sanitizers; an optimised program takes a fraction
+constexpr double most_seconds = 2; // by the sanitizers; an optimised program takes a fraction
 
 double processorSeconds() {
     return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;

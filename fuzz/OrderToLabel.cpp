@@ -18,8 +18,6 @@ namespace etiquetas::fuzz {
 
 namespace {
 
-constexpr TextView closing_question = u"A Impressão está OK";
-
 // What the Workbench holds of a loaded order, by the rules that hold for all of them.
 void checkOrder(const FrmPadrao& form, const ListField& items, std::string_view order) {
     const std::set<Text> keys(items.entries.begin(), items.entries.end());

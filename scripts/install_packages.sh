@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for a purpose: "run" (build the program and run it),
 # "test" (build and run the tests as well), "check" (look at form and style, and build with Clang),
-# "bench" (build and run the benchmarks), "fuzz" (build and run the fuzz targets) or "measure"
-# (tools/print). With nothing missing it only looks, and is quick.
+# "bench" (build and run the benchmarks), "fuzz" (build and run the fuzz targets), "package" (make
+# packages and check them) or "measure" (tools/print). With nothing missing it only looks, and is
+# quick.
 set -euo pipefail
 
 case "${1:-}" in
-    run | test | check | bench | fuzz | measure) purpose=$1 ;;
+    run | test | check | bench | fuzz | package | measure) purpose=$1 ;;
     *)
-        echo "usage: ${0##*/} run|test|check|bench|fuzz|measure" >&2
+        echo "usage: ${0##*/} run|test|check|bench|fuzz|package|measure" >&2
         exit 2
         ;;
 esac
@@ -36,10 +37,19 @@ if [ "$purpose" = test ]; then
 elif [ "$purpose" = check ]; then
     packages+=(
         clang clang-format clang-tidy # the other compiler, form and style
-        libgtest-dev libgmock-dev libbenchmark-dev libzxing-dev
+        libgtest-dev libgmock-dev libbenchmark-dev libzxing-dev libzint-dev
+    )
+elif [ "$purpose" = package ]; then
+    packages+=(
+        dpkg-dev file                # what a program depends on
+        appstream desktop-file-utils # what an installation tells desktops
     )
 elif [ "$purpose" = bench ]; then
-    packages+=(libbenchmark-dev)
+    packages+=(
+        libbenchmark-dev          # benchmark framework
+        mawk libzint-dev glabels  # peers of loading, bars and label files
+        python3 strace            # runs them, and counts listings of a folder
+    )
 elif [ "$purpose" = fuzz ]; then
     packages+=(
         clang libclang-rt-dev llvm # compiler, sanitizers and libFuzzer, coverage

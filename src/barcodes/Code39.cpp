@@ -102,11 +102,16 @@ void DesenhaCode39(PictureBox& pic, std::int16_t escala, Text& texto, bool com_d
     beginSymbol(pic);
     const int last_end = mostra_texto ? text_y + pic.TextHeight(texto) : bars_end;
     setSize(pic, modules.size() / character_modules, last_end + rows_below);
-    drawModules(pic, modules, first_module_x, rows_above, bar_height);
+    const auto draw_bars = [&] {
+        pic.columns(first_module_x, rows_above, bar_height, pixelsOf(modules));
+    };
     if (mostra_texto) {
+        draw_bars();
         printText(pic, texto, modules.size(), text_y);
+        pic.showDrawing();
+    } else {
+        showSymbol(pic, u"Code 39", escala, modules, draw_bars);
     }
-    endSymbol(pic);
 }
 
 } // namespace etiquetas

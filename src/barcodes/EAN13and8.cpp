@@ -6,6 +6,8 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
+#include <vector>
 
 namespace etiquetas {
 
@@ -83,12 +85,13 @@ constexpr std::array<Guard, 3> guards{{{0, 3}, {45, 5}, {92, 3}}};
 // A quiet zone of 11 modules, as EAN-13 asks for on the left.
 constexpr int first_module_x = 11;
 
-void drawBars(PictureBox& pic, TextView modules, int bar_height) {
+void drawBars(PictureBox& pic, TextView digits, int bar_height) {
     constexpr int longer_guard = 5; // as many pixels as the standard has modules
-    drawModules(pic, modules, first_module_x, 0, bar_height);
+    const std::vector<Pixel> pixels = pixelsOf(modulesOf(digits));
+    pic.columns(first_module_x, 0, bar_height, pixels);
     for (const Guard& guard : guards) {
-        drawModules(pic, modules.substr(guard.first, guard.count),
-                    first_module_x + static_cast<int>(guard.first), bar_height, longer_guard);
+        pic.columns(first_module_x + static_cast<int>(guard.first), bar_height, longer_guard,
+                    std::span(pixels).subspan(guard.first, guard.count));
     }
 }
 
@@ -125,11 +128,13 @@ void DesenhaEan13(PictureBox& pic, std::int16_t escala, TextView texto, bool mos
     const int bar_height = barHeight(escala);
     beginSymbol(pic);
     setSymbolSize(pic, bar_height);
-    drawBars(pic, modulesOf(texto), bar_height);
     if (mostra_texto) {
+        drawBars(pic, texto, bar_height);
         printDigits(pic, texto, bar_height);
+        pic.showDrawing();
+    } else {
+        showSymbol(pic, u"EAN-13", escala, texto, [&] { drawBars(pic, texto, bar_height); });
     }
-    endSymbol(pic);
 }
 
 } // namespace etiquetas

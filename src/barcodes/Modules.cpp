@@ -3,7 +3,6 @@
 #include "base/Numbers.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace etiquetas {
 
@@ -18,21 +17,17 @@ void beginSymbol(PictureBox& pic) {
     pic.ScaleMode(ScaleMode::pixels);
 }
 
-void drawModules(PictureBox& pic, TextView modules, int x, int top, int height) {
-    std::vector<Pixel> colours(modules.size());
-    std::transform(modules.begin(), modules.end(), colours.begin(),
+std::vector<Pixel> pixelsOf(TextView modules) {
+    std::vector<Pixel> pixels(modules.size());
+    std::transform(modules.begin(), modules.end(), pixels.begin(),
                    [](char16_t module) { return module == u'1' ? black_pixel : white_pixel; });
-    pic.columns(x, top, height, colours);
+    return pixels;
 }
 
 void printAt(PictureBox& pic, double x, double y, TextView text) {
     pic.CurrentX(x);
     pic.CurrentY(y);
     pic.Print(text);
-}
-
-void endSymbol(PictureBox& pic) {
-    pic.showDrawing();
 }
 
 } // namespace etiquetas

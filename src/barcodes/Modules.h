@@ -4,6 +4,8 @@
 #include "platform/PictureBox.h"
 
 #include <cstdint>
+#include <utility>
+#include <vector>
 
 namespace etiquetas {
 
@@ -16,13 +18,25 @@ namespace etiquetas {
 /// Makes the picture a white raster of pixels that keeps what is drawn.
 void beginSymbol(PictureBox& pic);
 
-/// Draws modules from column `x` on, from row `top` down over `height` rows; pixels, from 0.
-void drawModules(PictureBox& pic, TextView modules, int x, int top, int height);
+/// The modules as columns of pixels.
+[[nodiscard]] std::vector<Pixel> pixelsOf(TextView modules);
 
 /// Prints a text with its top-left corner at (`x`, `y`), in pixels.
 void printAt(PictureBox& pic, double x, double y, TextView text);
 
-/// Shows what was drawn, ready to be stamped.
-void endSymbol(PictureBox& pic);
+/// Shows a symbol, ready to be stamped: the one that `draw` draws in the picture, which has its
+/// size. Labels with the same bars mostly follow one another, so that a symbol without a text under
+/// it is kept by what tells all of it, and drawn only where another one was drawn before.
+template <typename Draw>
+void showSymbol(PictureBox& pic, TextView symbology, std::int16_t escala, TextView texto,
+                const Draw& draw) {
+    Text name;
+    name.reserve(symbology.size() + 1 + texto.size());
+    name.append(symbology).append(1, static_cast<char16_t>(escala)).append(texto);
+    if (!pic.showKept(name)) {
+        draw();
+        pic.showDrawing(std::move(name));
+    }
+}
 
 } // namespace etiquetas

@@ -1,6 +1,7 @@
 #include "desktop/Desktop.h"
 
 #include "desktop/LeftDrafts.h"
+#include "desktop/machine/Apart.h"
 #include "desktop/machine/QtText.h"
 #include "desktop/printing/PdfFile.h"
 #include "desktop/records/JobTitle.h"
@@ -18,16 +19,33 @@
 #include <QRegularExpression>
 #include <QUrl>
 
+#include <chrono>
 #include <utility>
 
 namespace etiquetas {
 
+namespace {
+
+// No window shows yet, so that a print system that takes long has a sign of its own, by which it
+// can be done without.
+QtPrinters foundPrinters() {
+    constexpr std::chrono::milliseconds without_sign{500};
+    ProgressWindow sign;
+    return QtPrinters(
+        [&sign, soon = Deadline(without_sign), in_time = Deadline(print_system_patience)] {
+            return soon() || (in_time() && sign.tell(nullptr, 0, 0, true));
+        });
+}
+
+} // namespace
+
 Desktop::Desktop(const QString& folder)
     : log_(startedLog(folder)),
       skipped_([this](const Failure& failure) { logSkipped(log_, failure); }), files_(folder),
-      surface_(printers_, folder), history_(folder),
+      printers_(foundPrinters()), surface_(printers_, folder), history_(folder),
       form_({printers_, surface_, recorded_messages_, pictures_, folder_memory_, focus_, pointer_,
              process_, folders_, commands_}),
+      review_(form_, printers_, folder, [this] { return bridge_.isRunning(); }),
       bridge_(focus_, [this](const QString& description) { endOnFailure(description); }) {
     keepLog();
     for (const QString& draft : removeLeftDrafts(folder)) {
@@ -47,6 +65,7 @@ Desktop::Desktop(const QString& folder)
     process_.onEnd([this] { end(0); });
     window_.onClose([this] { return close(); });
     window_.onShowFolder([this] { showJobFolder(); });
+    window_.onShowFindings([this] { showFindings(); });
     window_.onResize([this] { bridge_.run([this] { FrmPadrao_resize(form_); }); });
 }
 
@@ -88,6 +107,11 @@ void Desktop::guideOperator() {
         guide_.printersMissing();
     }
     openBy([](const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
+    guide_.historyBy([this] { return tellEarlierJob(); });
+    review_.onEnd([this] {
+        guide_.found(review_.count());
+        showStatus();
+    });
     watchItemLists();
     watchLongJobs();
     openPreview();
@@ -113,6 +137,10 @@ void Desktop::watchItemLists() {
     bridge_.onEventEnded([this, lists] {
         surface_.delivery().pulse().rest();
         guide_.eventEnded(lists.contains(window_.focusWidget()));
+        if (guide_.orderChanged()) {
+            findings_.hide();
+            review_.begin();
+        }
         showStatus();
     });
 }
@@ -122,7 +150,7 @@ void Desktop::watchLongJobs() {
         [this](const JobProgress& progress) {
             guide_.jobBegins();
             showStatus();
-            const bool goes_on = progress_.tell(bridge_.activeWindow(), progress.labels,
+            const bool goes_on = progress_.tell(&bridge_.activeWindow(), progress.labels,
                                                 progress.in_all, progress.can_cancel);
             return goes_on ? JobWish::goes_on : JobWish::ends;
         },
@@ -180,6 +208,24 @@ void Desktop::comeToFront() {
     }
 }
 
+QString Desktop::tellEarlierJob() const {
+    QString told;
+    skip([&] {
+        const auto job = history_.lastOf(shownItem(form_));
+        told = job ? tellJob(*job) : QString();
+    });
+    return told;
+}
+
+void Desktop::showFindings() {
+    if (bridge_.isRunning()) {
+        return;
+    }
+    findings_.show(guide_.file(), review_.finish());
+    guide_.found(review_.count());
+    showStatus();
+}
+
 void Desktop::showStatus() {
     window_.status().tell(guide_.text());
     window_.markSizes(guide_.isNotLoaded());
@@ -225,6 +271,15 @@ bool Desktop::close() {
     bridge_.run([this] { FrmPadrao_unload(form_); });
     end(exit_code_.value_or(0));
     return true;
+}
+
+void Desktop::tellFolder(const WorkFolder& folder) {
+    const QString notice = etiquetas::tellFolder(folder);
+    if (!notice.isEmpty()) {
+        folder.is_writable ? log_.info(notice) : log_.warning(notice);
+        guide_.tellFolder(notice, !folder.is_writable);
+        showStatus();
+    }
 }
 
 void Desktop::start() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Failure.h"
+#include "desktop/IdleReview.h"
 #include "desktop/StatusGuide.h"
 #include "desktop/machine/FolderMemory.h"
 #include "desktop/machine/Log.h"
@@ -8,6 +9,7 @@
 #include "desktop/machine/QtFiles.h"
 #include "desktop/machine/QtPictures.h"
 #include "desktop/machine/QtPrinters.h"
+#include "desktop/machine/WorkFolder.h"
 #include "desktop/preview/PreviewWindow.h"
 #include "desktop/printing/QtPrintSurface.h"
 #include "desktop/records/JobHistory.h"
@@ -15,6 +17,7 @@
 #include "desktop/records/LoggedMessageBoxes.h"
 #include "desktop/windows/DialogWindow.h"
 #include "desktop/windows/EventBridge.h"
+#include "desktop/windows/FindingsWindow.h"
 #include "desktop/windows/ProgressWindow.h"
 #include "desktop/windows/QtFocus.h"
 #include "desktop/windows/QtFolderPicker.h"
@@ -39,6 +42,8 @@ class Desktop {
     /// log "etiquetas.log".
     explicit Desktop(const QString& folder);
 
+    /// Tells the operator what there is to know of the folder, at the foot of the window.
+    void tellFolder(const WorkFolder& folder);
     /// Runs the start-up and shows the window.
     void start();
 
@@ -47,6 +52,9 @@ class Desktop {
     [[nodiscard]] std::vector<DialogWindow*> dialogs();
     [[nodiscard]] const FrmPadrao& form() const { return form_; }
     [[nodiscard]] PreviewWindow& preview() { return preview_; }
+    [[nodiscard]] FindingsWindow& findings() { return findings_; }
+    /// True as long as the loaded order is looked through for findings.
+    [[nodiscard]] bool isReviewing() const { return review_.isWorking(); }
     [[nodiscard]] ProgressWindow& progress() { return progress_; }
     /// Brings the window to the front, and a box that stands over it.
     void comeToFront();
@@ -67,8 +75,10 @@ class Desktop {
     void record(const EndedJob& job);
     void deliverAgain(const std::function<void(JobDelivery&)>& deed);
     void showStatus();
+    void showFindings();
     void showJobFolder();
     [[nodiscard]] LabelCount labelCount() const;
+    [[nodiscard]] QString tellEarlierJob() const;
     [[nodiscard]] QString doubtOf(const Message& message) const;
     bool close();
     void end(int exit_code);
@@ -92,6 +102,7 @@ class Desktop {
     QtCommandStart commands_;
     FrmPadrao form_;
     StatusGuide guide_{form_};
+    IdleReview review_;
     QString last_job_;                     // the path of the PDF file that was written last
     std::optional<PrintedItem> previewed_; // what the preview shows; no test print
     bool repeats_ = false;                 // while a job of the preview is delivered anew
@@ -101,6 +112,7 @@ class Desktop {
     MarginWindow caixa_margins_{QStringLiteral("FrmMargensCxZPL45")};
     MarginWindow pack_margins_{QStringLiteral("FrmMargensPackZPL")};
     ParameterWindow parameters_;
+    FindingsWindow findings_{window_};
     PreviewWindow preview_;
     ProgressWindow progress_;
     EventBridge bridge_;

@@ -74,6 +74,11 @@ std::optional<std::size_t> placeOf(const Text& item, const EntryList& items) {
 
 } // namespace
 
+void StatusGuide::tellFolder(const QString& text, bool is_warning) {
+    folder_ = text;
+    folder_fails_ = is_warning;
+}
+
 void StatusGuide::jobEnded(const EndedJob& job) {
     printers_missing_ = false;
     is_printing_ = false;
@@ -97,6 +102,9 @@ void StatusGuide::look() {
         lines_ = form_.List1.entries.size();
         taken_lines_.clear();
         has_order_ = true;
+        if (!folder_fails_) {
+            folder_.clear();
+        }
         if (!has_job_) {
             job_.reset();
         }
@@ -107,6 +115,12 @@ void StatusGuide::eventEnded(bool in_item_list) {
     look();
     noteTakenLine();
     noteLoadedItem(in_item_list);
+    const bool is_other_kind = std::exchange(kind_, form_.cmbtipo.text) != form_.cmbtipo.text;
+    order_changed_ = has_order_ || is_other_kind;
+    if (order_changed_) {
+        printed_before_ = history_();
+        findings_.reset();
+    }
     has_order_ = false;
     has_job_ = false;
     is_printing_ = false;
@@ -139,6 +153,9 @@ void StatusGuide::noteLoadedItem(bool in_item_list) {
     const Text& item = (form_.*family()->items).text;
     picked_ = toQString(item);
     const bool is_loaded = !in_item_list || has_job_ || has_order_;
+    if (isBlank(item)) {
+        printed_before_.clear();
+    }
     if (!is_loaded || isBlank(item)) {
         return;
     }
@@ -146,6 +163,7 @@ void StatusGuide::noteLoadedItem(bool in_item_list) {
         return;
     }
     place_ = placeOf(loaded_, all_items_);
+    printed_before_ = history_();
     if (!has_job_) {
         job_.reset();
     }
@@ -171,7 +189,7 @@ QString StatusGuide::orderText() const {
             toQString(form_.cmbtipo.text));
     }
     if (!form_.cmd_printacessorio.visible) {
-        return u"Pedido \"%1\" não carregado"_s.arg(toQString(form_.txtarquivo.text));
+        return u"Nenhum pedido carregado: digite o número e tecle Enter"_s;
     }
     return file_.isEmpty() ? u"Digite o número do pedido e tecle Enter"_s : itemText();
 }
@@ -193,6 +211,9 @@ QString StatusGuide::itemText() const {
     if (!items().empty()) {
         parts << (items().size() == 1 ? u"falta 1"_s : u"faltam %1"_s.arg(items().size()));
     }
+    if (findings_.value_or(0) > 0) {
+        parts << counted(*findings_, u"achado (F6)"_s, u"achados (F6)"_s);
+    }
     return parts.join(separator);
 }
 
@@ -201,14 +222,17 @@ QStringList StatusGuide::happenings() const {
     if (is_printing_) {
         return {u"Imprimindo…"_s};
     }
-    if (isNotLoaded()) {
-        told << u"Item escolhido ainda não carregado: saia da lista com Enter"_s;
+    if (isNotLoaded()) { // what to do now is not to be cut off by what was before
+        return {u"Item escolhido ainda não carregado: saia da lista com Enter"_s};
     }
     if (job_) {
         told << (job_->delivered ? deliveredText(*job_) : undeliveredText(*job_));
         if (job_->cut_off > 0) {
             told << cutOffText(*job_);
         }
+    }
+    if (!printed_before_.isEmpty()) {
+        told << u"Este item já foi "_s + printed_before_;
     }
     if (!taken_lines_.isEmpty()) {
         told << (taken_lines_.size() == 1 ? u"linha retirada: "_s : u"linhas retiradas: "_s) +
@@ -217,6 +241,9 @@ QStringList StatusGuide::happenings() const {
     if (printers_missing_) {
         told << u"O sistema de impressão não respondeu: só há PDF e pré-visualização"_s;
     }
+    if (!folder_.isEmpty()) {
+        told << folder_;
+    }
     return told;
 }
 
@@ -224,11 +251,14 @@ StatusMood StatusGuide::mood() const {
     if (is_printing_) {
         return StatusMood::plain;
     }
+    if (isNotLoaded()) {
+        return StatusMood::warning;
+    }
     if (job_ && !job_->delivered) {
         return StatusMood::failed;
     }
-    const bool warns = isNotLoaded() || printers_missing_ || !taken_lines_.isEmpty() ||
-                       (job_ && job_->cut_off > 0);
+    const bool warns = printers_missing_ || folder_fails_ || !taken_lines_.isEmpty() ||
+                       !printed_before_.isEmpty() || (job_ && job_->cut_off > 0);
     if (warns) {
         return StatusMood::warning;
     }

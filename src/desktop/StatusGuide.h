@@ -9,7 +9,9 @@
 #include <QStringList>
 
 #include <cstddef>
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace etiquetas {
 
@@ -24,8 +26,15 @@ class StatusGuide {
     /// The form must outlive the guide.
     explicit StatusGuide(const FrmPadrao& form) : form_(form) {}
 
+    /// What tells when the item on the form was printed before; empty where it was not.
+    void historyBy(std::function<QString()> history) { history_ = std::move(history); }
+    /// The findings of the order on the form; nothing as long as it has not been looked through.
+    void found(std::optional<std::size_t> findings) { findings_ = findings; }
     /// The print system did not tell its printers at the start.
     void printersMissing() { printers_missing_ = true; }
+    /// What there is to know of the folder: a notice stands until an order has been read, a warning
+    /// for good.
+    void tellFolder(const QString& text, bool is_warning);
     /// An order file was read; what it holds is on the form when the event has ended.
     void orderRead(const QString& path) { read_ = path; }
     void jobBegins() { is_printing_ = true; }
@@ -37,7 +46,11 @@ class StatusGuide {
     /// An event has ended, in an item list or elsewhere.
     void eventEnded(bool in_item_list);
 
+    /// True where the event that ended last brought another order or label kind.
+    [[nodiscard]] bool orderChanged() const { return order_changed_; }
     [[nodiscard]] StatusText text() const;
+    /// The name of the order's file; empty before one was read.
+    [[nodiscard]] const QString& file() const { return file_; }
     /// True while the sizes on the window are not those of the item that the list shows.
     [[nodiscard]] bool isNotLoaded() const;
     /// What is wrong with the job that the closing question asks about; empty where nothing is.
@@ -54,9 +67,16 @@ class StatusGuide {
     [[nodiscard]] StatusMood mood() const;
 
     const FrmPadrao& form_;
+    std::function<QString()> history_ = [] { return QString(); };
+    std::optional<std::size_t> findings_;
+    QString printed_before_; // the loaded item
     bool printers_missing_ = false;
+    QString folder_;
+    bool folder_fails_ = false;
     std::optional<QString> read_;      // file, since the last event
     QString file_;                     // of the order on the form
+    Text kind_;                        // after the last event
+    bool order_changed_ = false;       // by the last event
     EntryList all_items_;              // of the order, as it was read
     std::size_t lines_ = 0;            // of the order, after the last event
     QStringList taken_lines_;          // of items that have not been printed

@@ -32,6 +32,20 @@ void PictureBox::showDrawing() {
         Raster{drawn_.width, drawn_.height, std::exchange(drawn_.pixels, {})});
 }
 
+void PictureBox::showDrawing(Text name) {
+    showDrawing();
+    kept_ = picture_;
+    kept_name_ = std::move(name);
+}
+
+bool PictureBox::showKept(TextView name) {
+    const bool is_kept = kept_ && kept_name_ == name;
+    if (is_kept) {
+        Picture(kept_);
+    }
+    return is_kept;
+}
+
 void PictureBox::Width(double twips) {
     width_ = twips;
     resize();

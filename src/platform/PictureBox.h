@@ -28,6 +28,11 @@ class PictureBox {
     [[nodiscard]] etiquetas::Picture Image() const;
     /// Shows what has been drawn: what `Picture(Image())` does, without a second raster.
     void showDrawing();
+    /// The same, and keeps the drawing by its name, in place of the one that was kept before.
+    void showDrawing(Text name);
+    /// Shows the drawing that is kept, if that is its name, as if it had been drawn again; the box
+    /// must have the size that it was drawn in. False where there is none of that name.
+    [[nodiscard]] bool showKept(TextView name);
 
     /// Size in twips; the raster has the nearest whole number of pixels.
     void Width(double twips);
@@ -63,6 +68,8 @@ class PictureBox {
     Pictures* pictures_;
     etiquetas::Picture picture_;
     Raster drawn_; // without pixels as long as nothing is drawn
+    etiquetas::Picture kept_;
+    Text kept_name_;
     double width_ = 0;
     double height_ = 0;
     double x_ = 0;

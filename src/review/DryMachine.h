@@ -8,6 +8,9 @@
 #include "platform/Printers.h"
 #include "review/IdleDesk.h"
 
+#include <functional>
+#include <map>
+#include <utility>
 #include <vector>
 
 namespace etiquetas {
@@ -32,7 +35,7 @@ class HandedBoxes final : public MessageBoxes {
     MessageBoxes* shown_;
 };
 
-/// Reads the files of another machine, and changes none.
+/// Reads the files of another machine, and changes none. A folder is listed once.
 class UnchangedFiles final : public Files {
   public:
     explicit UnchangedFiles(const Files& files) : files_(&files) {}
@@ -44,7 +47,11 @@ class UnchangedFiles final : public Files {
         return files_->folderExists(path);
     }
     [[nodiscard]] std::vector<Text> filesIn(TextView folder) const override {
-        return files_->filesIn(folder);
+        auto known = listed_.find(folder);
+        if (known == listed_.end()) {
+            known = listed_.emplace(folder, files_->filesIn(folder)).first;
+        }
+        return known->second;
     }
     [[nodiscard]] std::string read(TextView path) const override { return files_->read(path); }
     void makeFolder(TextView /*path*/) override {}
@@ -53,6 +60,7 @@ class UnchangedFiles final : public Files {
 
   private:
     const Files* files_;
+    mutable std::map<Text, std::vector<Text>, std::less<>> listed_; // folders
 };
 
 /// The printers of another machine by their names.

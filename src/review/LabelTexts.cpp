@@ -120,7 +120,7 @@ std::optional<Finding> fateOnLabels(FrmPadrao& form, MeasuredSurface& surface, c
 } // namespace
 
 std::vector<Finding> reviewTexts(FrmPadrao& form, MeasuredSurface& surface) {
-    const auto trial = std::find_if(trials().begin(), trials().end(), [&](const Trial& row) {
+    const auto* const trial = std::find_if(trials().begin(), trials().end(), [&](const Trial& row) {
         return row.kind == form.cmbtipo.text;
     });
     std::vector<Finding> findings;

@@ -4,14 +4,11 @@
 #include "base/Numbers.h"
 #include "config/ProgramFiles.h"
 #include "labels/JobSetup.h"
-#include "model/FrmPadrao.h"
 #include "model/LabelCounts.h"
 #include "orders/OrderFamily.h"
 #include "orders/OrderFormat.h"
 #include "review/Barcode.h"
-#include "review/DryMachine.h"
 #include "review/LabelTexts.h"
-#include "review/OrderLines.h"
 #include "workbench/Pedido.h"
 
 #include <algorithm>
@@ -274,29 +271,37 @@ void loadAlike(FrmPadrao& form, const FrmPadrao& loaded) {
 
 } // namespace
 
-std::vector<Finding> reviewOrder(const FrmPadrao& form, PrintSurface& measure) {
+OrderReview::OrderReview(const FrmPadrao& form, const Files& files, PrintSurface& measure)
+    : machine_(files, form.platform.printers, measure, boxes_), tried_(machine_.platform()) {
     const auto path = loadedOrderPath(form);
     const OrderFamily* const family = orderFamily(form.TipoArquivo);
     if (!path || family == nullptr) {
-        return {};
+        return;
     }
-    const Platform& platform = form.platform;
-    UnseenBoxes boxes;
-    DryMachine machine(platform.files, platform.printers, measure, boxes);
-    FrmPadrao tried(machine.platform());
-    loadAlike(tried, form);
-    chooseBanner(tried);
+    loadAlike(tried_, form);
+    chooseBanner(tried_);
+    lines_ = orderLines(files.read(*path), *family);
+    findings_ = std::move(lines_.strays);
+    family_ = family;
+}
 
-    OrderLines lines = orderLines(platform.files.read(*path), *family);
-    std::vector<Finding> findings = std::move(lines.strays);
-    ListField& items = tried.*family->items;
-    for (int item = 0; item < static_cast<int>(items.entries.size()); ++item) {
-        items.choose(item);
-        const Text key = items.text;
-        auto found = ItemReview(tried, machine.surface(), *family, key, lines.items[key]).run();
-        std::move(found.begin(), found.end(), std::back_inserter(findings));
+bool OrderReview::next() {
+    if (family_ == nullptr || place_ == (tried_.*family_->items).entries.size()) {
+        return false;
     }
-    return findings;
+    ListField& items = tried_.*family_->items;
+    items.choose(static_cast<int>(place_++));
+    const Text key = items.text;
+    auto found = ItemReview(tried_, machine_.surface(), *family_, key, lines_.items[key]).run();
+    std::move(found.begin(), found.end(), std::back_inserter(findings_));
+    return true;
+}
+
+std::vector<Finding> reviewOrder(const FrmPadrao& form, PrintSurface& measure) {
+    OrderReview review(form, form.platform.files, measure);
+    while (review.next()) {
+    }
+    return review.findings();
 }
 
 } // namespace etiquetas

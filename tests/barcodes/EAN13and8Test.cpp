@@ -1,8 +1,11 @@
 #include "barcodes/EAN13and8.h"
 
+#include "barcodes/Code39.h"
 #include "barcodes/SymbolPicture.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace etiquetas::test {
 
@@ -30,6 +33,29 @@ TEST_F(Ean13Test, DrawsSymbolsOfTwelveDigitsInTensOfPixels) {
     draw(u"204455667788", 2, true);
     EXPECT_EQ(symbols.log, (Log{"letters 044556", "letters 677888"}));
     EXPECT_TRUE(matchesGolden(symbols.transcript, "ean13_symbols"));
+}
+
+// The picture keeps the symbol that it drew last.
+TEST_F(Ean13Test, DrawsAsInANewPictureWhateverWasDrawnBefore) {
+    constexpr TextView digits = u"204455667788";
+    using Draw = std::function<void(PictureBox&)>;
+    const Draw small = [&](PictureBox& box) { DesenhaEan13(box, 1, digits, false); };
+    const Draw large = [&](PictureBox& box) { DesenhaEan13(box, 2, digits, false); };
+    const Draw with_digits = [&](PictureBox& box) { DesenhaEan13(box, 1, digits, true); };
+    const Draw other = [&](PictureBox& box) { DesenhaEan13(box, 1, u"001165412508", false); };
+    const Draw code39 = [&](PictureBox& box) {
+        Text text(digits);
+        DesenhaCode39(box, 1, text, false, false);
+    };
+    for (const Draw& draw_next :
+         {small, small, large, small, with_digits, small, code39, small, other, small}) {
+        PictureBox fresh{letters};
+        draw_next(fresh);
+        draw_next(picture);
+        EXPECT_EQ(picture.Picture()->width, fresh.Picture()->width);
+        EXPECT_EQ(picture.Picture()->pixels, fresh.Picture()->pixels);
+        EXPECT_EQ(picture.Image()->pixels, fresh.Image()->pixels);
+    }
 }
 
 TEST_F(Ean13Test, BarsAreAtMostAsHighAsSixteenBitsHold) {

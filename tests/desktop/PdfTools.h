@@ -31,8 +31,8 @@ QByteArray outputOf(const QString& command);
 [[nodiscard]] double distanceTo(const std::vector<PdfText>& page, const QString& text,
                                 QPointF place);
 
-/// From the top of a text to its baseline, millimetres: by the Windows ascent of Carlito or Open Sans
-/// Light, and of Liberation Sans where the stand-in takes its line.
+/// From the top of a text to its baseline, millimetres: by the Windows ascent of Carlito or Open
+/// Sans Light, and of Liberation Sans where the stand-in takes its line.
 [[nodiscard]] double riseOf(const QString& face, double points);
 
 enum class Tones { black_and_white, colours };

@@ -41,6 +41,14 @@ struct SampleWindow {
         worker.press(Qt::Key_Return);
     }
 
+    /// Waits until the order has been looked through, and what was found stands at the foot.
+    void settle() const {
+        while (desktop->isReviewing() && !desktop->exitCode()) {
+            QCoreApplication::processEvents();
+        }
+        QCoreApplication::processEvents();
+    }
+
     /// The files of labels that were written, by their paths; one that was only begun counts too.
     [[nodiscard]] QStringList jobs() const {
         QStringList paths;

@@ -62,6 +62,18 @@ TEST_F(StatusGuideTest, leadsThroughAnOrderAndTellsWhatWasPrintedUntilAnotherIte
     EXPECT_EQ(guide.text().happened, QString());
 }
 
+TEST_F(StatusGuideTest, namesTheFolderUntilAnOrderIsReadAndWarnsOfItForGood) {
+    guide.tellFolder(u"criada"_s, false);
+    EXPECT_EQ(guide.text().happened, u"criada"_s);
+    EXPECT_EQ(guide.text().mood, StatusMood::plain);
+    loadOrder(tipo::oculta);
+    EXPECT_EQ(guide.text().happened, QString());
+    guide.tellFolder(u"fechada"_s, true);
+    loadOrder(tipo::oculta);
+    EXPECT_EQ(guide.text().happened, u"fechada"_s);
+    EXPECT_EQ(guide.text().mood, StatusMood::warning);
+}
+
 TEST_F(StatusGuideTest, tellsTheLineOfAnotherItemThatIsTakenOffTheOrder) {
     loadOrder(tipo::oculta);
     form.cmb_referencia.choose(1);
@@ -81,7 +93,8 @@ TEST_F(StatusGuideTest, tellsWhyThePrintCommandIsHidden) {
     EXPECT_EQ(guide.text().order, u"Tipo desconhecido: \"oculta\". Escolha um tipo da lista."_s);
     form.txtarquivo.text = u"99";
     load(tipo::oculta);
-    EXPECT_EQ(guide.text(), StatusText{.order = u"Pedido \"99\" não carregado"_s});
+    EXPECT_EQ(guide.text(),
+              StatusText{.order = u"Nenhum pedido carregado: digite o número e tecle Enter"_s});
 }
 
 TEST_F(StatusGuideTest, tellsOfAPickedItemUntilItsListIsLeft) {

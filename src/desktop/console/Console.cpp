@@ -9,8 +9,8 @@
 #include "desktop/console/ReviewReport.h"
 #include "desktop/machine/QtText.h"
 #include "desktop/machine/Translation.h"
+#include "desktop/machine/WorkFolder.h"
 
-#include <QDir>
 #include <QGuiApplication>
 
 #include <span>
@@ -21,6 +21,18 @@ namespace etiquetas {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// Only printing lays a folder out: looking changes nothing.
+QString folderFor(const ConsoleOptions& options) {
+    if (options.task != Task::print) {
+        return workFolderPath(options.folder);
+    }
+    const WorkFolder folder = openWorkFolder(options.folder);
+    if (const QString notice = tellFolder(folder); !notice.isEmpty()) {
+        tell(notice);
+    }
+    return folder.path;
+}
 
 int doTask(const ConsoleOptions& options) {
     switch (options.task) {
@@ -39,6 +51,7 @@ int doTask(const ConsoleOptions& options) {
     case Task::history:
         return listHistory(options);
     case Task::window:
+    case Task::manual:
         break;
     }
     tell(u"A janela não abre com essas opções."_s);
@@ -49,8 +62,9 @@ int doTask(const ConsoleOptions& options) {
 
 bool asksForConsole(int argc, const char* const* argv) {
     for (const std::string_view argument : std::span(argv, static_cast<std::size_t>(argc))) {
-        const bool names_folder = argument == "--pasta" || argument.starts_with("--pasta=");
-        if ((argument.starts_with("--") && !names_folder) || argument == "-h" || argument == "-v") {
+        const bool of_window =
+            argument == "--pasta" || argument.starts_with("--pasta=") || argument == "--manual";
+        if ((argument.starts_with("--") && !of_window) || argument == "-h" || argument == "-v") {
             return true;
         }
     }
@@ -67,8 +81,7 @@ int runConsole(int argc, char** argv) {
         tell(u"Veja etiquetas --help."_s);
         return exit_code::wrong_use;
     }
-    read.options.folder = read.options.folder.isEmpty() ? QCoreApplication::applicationDirPath()
-                                                        : QDir(read.options.folder).absolutePath();
+    read.options.folder = folderFor(read.options);
     try {
         return doTask(read.options);
     } catch (const Failure& failure) {

@@ -7,7 +7,7 @@ namespace etiquetas {
 struct ConsoleOptions;
 
 /// True where the arguments ask for more than the window, so that no display is needed: any option
-/// of ours but the one that names the folder.
+/// of ours but those that name the folder or open the manual.
 [[nodiscard]] bool asksForConsole(int argc, const char* const* argv);
 
 /// Does what the command line asks for, without a display, and returns the exit code. Makes the

@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "desktop/console/ConsoleBoxes.h"
 #include "desktop/console/ConsoleOptions.h"
+#include "desktop/machine/FolderMemory.h"
 #include "desktop/machine/Log.h"
 #include "desktop/machine/QtFiles.h"
 #include "desktop/machine/QtPictures.h"
@@ -28,9 +29,12 @@ class ConsoleMachine {
 
     [[nodiscard]] FrmPadrao& form() { return form_; }
     [[nodiscard]] ConsoleBoxes& boxes() { return boxes_; }
+    [[nodiscard]] const QtPrinters& printers() const { return printers_; }
     [[nodiscard]] QtPrintSurface& surface() { return surface_; }
     /// The job that has ended since the last call.
     [[nodiscard]] std::optional<EndedJob> takeJob() { return std::exchange(job_, std::nullopt); }
+    /// From here on all folders are looked into anew: time has passed.
+    void forgetFolders() { folder_memory_.forget(); }
     /// The last words of the log.
     void end(int exit_code);
 
@@ -38,6 +42,7 @@ class ConsoleMachine {
     Log log_;
     SkipObserver skipped_;
     QtFiles files_;
+    FolderMemory folder_memory_{files_};
     QtPictures pictures_;
     QtPrinters printers_;
     QtPrintSurface surface_;
@@ -62,6 +67,7 @@ class LookingMachine {
 
   private:
     QtFiles files_;
+    FolderMemory folder_memory_{files_};
     QtPrinters printers_;
     QtPrintSurface surface_;
     ConsoleBoxes boxes_{std::nullopt, false};

@@ -33,6 +33,7 @@ const QString list = u"listar"_s;
 const QString history = u"historico"_s;
 const QString json = u"json"_s;
 const QString folder = u"pasta"_s;
+const QString manual = u"manual"_s;
 const QString help = u"help"_s;
 const QString version = u"version"_s;
 } // namespace option
@@ -65,7 +66,8 @@ void addOptions(QCommandLineParser& parser) {
         {option::list, u"Lista tipos, pedidos, itens ou impressoras."_s, u"o quê"_s},
         {option::history, u"Lista o que foi impresso, de um pedido ou de todos."_s},
         {option::json, u"Escreve em JSON, para programas."_s},
-        {option::folder, u"Pasta de trabalho em vez da pasta do programa."_s, u"pasta"_s},
+        {option::folder, u"Pasta de trabalho em vez da normal."_s, u"pasta"_s},
+        {option::manual, u"Abre o manual do operador numa janela."_s},
         {{u"h"_s, option::help}, u"Mostra esta ajuda."_s},
         {{u"v"_s, option::version}, u"Mostra a versão."_s},
     });
@@ -118,8 +120,9 @@ class Reader {
             const QString& name;
             Task task;
         };
-        const std::array<Row, 6> rows{{{option::help, Task::help},
+        const std::array<Row, 7> rows{{{option::help, Task::help},
                                        {option::version, Task::version},
+                                       {option::manual, Task::manual},
                                        {option::list, Task::list},
                                        {option::review, Task::review},
                                        {option::history, Task::history},

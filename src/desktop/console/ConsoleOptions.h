@@ -11,8 +11,8 @@
 
 namespace etiquetas {
 
-/// What the command line asks for. `window` is the Workbench itself.
-enum class Task : std::uint8_t { window, help, version, print, review, list, history };
+/// What the command line asks for. `window` is the Workbench itself, `manual` a window as well.
+enum class Task : std::uint8_t { window, manual, help, version, print, review, list, history };
 
 /// What `--listar` can list.
 enum class Listed : std::uint8_t { kinds, orders, items, printers };
@@ -28,7 +28,7 @@ struct NumberRange {
 /// The command line, read and found to make sense by itself.
 struct ConsoleOptions {
     Task task = Task::window;
-    QString folder; // of the Workbench; empty where it is the program's own
+    QString folder; // of the Workbench; empty where none is named
     QString order;
     QString kind;    // empty where none is named
     QString printer; // likewise

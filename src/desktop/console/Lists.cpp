@@ -3,6 +3,7 @@
 #include "desktop/console/ConsoleMachine.h"
 #include "desktop/console/ConsoleText.h"
 #include "desktop/console/OrderAtConsole.h"
+#include "desktop/machine/Apart.h"
 #include "desktop/machine/QtText.h"
 #include "orders/OrderFamily.h"
 #include "workbench/LabelKinds.h"
@@ -68,10 +69,12 @@ List kinds() {
 }
 
 List printers() {
-    const QtPrinters machine;
+    const QtPrinters machine((Deadline(print_system_patience)));
     List list({u"impressora"_s, u"padrao"_s});
-    for (const Text& name : machine.names()) {
-        list.add({toQString(name), name == machine.defaultName()});
+    for (const PrintTarget& printer : machine.targets()) {
+        if (printer.device != Device::preview) { // which needs its window
+            list.add({printer.name, toText(printer.name) == machine.defaultName()});
+        }
     }
     return list;
 }

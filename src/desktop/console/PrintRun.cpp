@@ -89,23 +89,26 @@ int PrintRun::printOrder() {
 }
 
 bool PrintRun::choosePrinter() {
-    ListField& printers = machine_.form().CMBPRINTER;
     if (options_.printer.isEmpty()) {
         return true;
     }
+    const std::vector<PrintTarget>& printers = machine_.printers().targets();
     const auto place =
-        std::find(printers.entries.begin(), printers.entries.end(), toText(options_.printer));
-    if (place == printers.entries.end()) {
+        std::find_if(printers.begin(), printers.end(), [this](const PrintTarget& printer) {
+            return printer.name == options_.printer && printer.device != Device::preview;
+        });
+    if (place == printers.end()) {
         tell(u"A impressora \"%1\" não existe; veja --listar impressoras."_s.arg(options_.printer));
         return false;
     }
-    printers.choose(static_cast<int>(place - printers.entries.begin()));
+    machine_.form().CMBPRINTER.choose(static_cast<int>(place - printers.begin()));
     return true;
 }
 
 bool PrintRun::load() {
     taken_off_ = 0;
     is_whole_ = true;
+    machine_.forgetFolders();
     return loadOrder(machine_.form(), options_.order, options_.kind);
 }
 
@@ -144,6 +147,7 @@ bool PrintRun::standOn(int number) {
         if (!wholeOrderStands(number)) {
             return false;
         }
+        machine_.forgetFolders(); // the item before may have been printing for long
         chooseItem(machine_.form(), number - 1 - taken_off_);
         return true;
     } catch (const Failure& failure) {

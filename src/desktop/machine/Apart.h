@@ -10,7 +10,7 @@
 namespace etiquetas {
 
 // A print server that takes a connection and never answers holds whoever asks it for minutes, and a
-// call to it can't be broken off. So it is asked on a thread of its own, which is left behind.
+// call to it does not end. So it is asked on a thread of its own, which is left behind.
 
 /// How long the print system may take to answer.
 inline constexpr std::chrono::seconds print_system_patience{10};

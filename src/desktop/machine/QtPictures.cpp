@@ -5,6 +5,7 @@
 #include "desktop/machine/QtText.h"
 #include "desktop/machine/RasterImage.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontMetrics>
@@ -15,6 +16,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -36,6 +38,9 @@ constexpr std::int64_t most_bytes = 24 * megabyte;
 // The decoder's memory, the file included.
 constexpr std::int64_t most_memory = 64 * megabyte;
 
+// Until no more of a file is waited for.
+constexpr std::chrono::seconds reading_time{2};
+
 // Seconds until no more of a file is decoded; the rest of one is left for the last steps.
 constexpr double decoding_time = 0.6;
 
@@ -48,12 +53,26 @@ Failure invalidPicture(TextView path) {
             Text(u"Imagem inválida: o arquivo \"").append(path).append(u"\" não é JPEG.")};
 }
 
-// All bytes of a regular file; none where it is larger than a picture. A pipe or a device would
-// keep the program waiting.
+// All bytes of a regular file; none where it is larger than a picture, or stands on a share that
+// takes too long. A pipe or a device would keep the program waiting.
 QByteArray bytesOf(const QString& path) {
+    constexpr qint64 piece = 65'536;
     QFile file(path);
     const bool readable = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
-    return readable && file.size() <= most_bytes ? file.read(most_bytes) : QByteArray();
+    if (!readable || file.size() > most_bytes) {
+        return {};
+    }
+    QByteArray bytes;
+    bytes.reserve(file.size());
+    const QDeadlineTimer deadline(reading_time);
+    while (!deadline.hasExpired() && bytes.size() <= most_bytes) {
+        const QByteArray next = file.read(piece);
+        if (next.isEmpty()) {
+            return bytes;
+        }
+        bytes += next;
+    }
+    return {};
 }
 
 std::int64_t pixelsOf(const QSize& size) {

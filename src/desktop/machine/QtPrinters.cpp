@@ -24,7 +24,7 @@ PrintTarget builtIn(Device device, const QString& name, const QString& where,
 
 } // namespace
 
-QtPrinters::QtPrinters() : QtPrinters(ask()) {}
+QtPrinters::QtPrinters(const std::function<bool()>& goes_on) : QtPrinters(ask(goes_on)) {}
 
 QtPrinters::QtPrinters(const QStringList& machine, const QString& machine_default)
     : QtPrinters(Machine{machine, machine_default}) {}
@@ -39,13 +39,13 @@ QtPrinters::QtPrinters(const Machine& machine) : answered_(machine.answered) {
     targets_.push_back(builtIn(Device::preview, u"Pré-visualização"_s, u"janela"_s, machine.names));
 }
 
-QtPrinters::Machine QtPrinters::ask() {
+QtPrinters::Machine QtPrinters::ask(const std::function<bool()>& goes_on) {
     const auto machine = apart(
         [] {
             return Machine{QPrinterInfo::availablePrinterNames(),
                            QPrinterInfo::defaultPrinterName()};
         },
-        Deadline(print_system_patience));
+        goes_on);
     return machine.value_or(Machine{.names = {}, .default_name = {}, .answered = false});
 }
 

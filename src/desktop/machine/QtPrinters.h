@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace etiquetas {
@@ -27,8 +28,9 @@ struct PrintTarget {
 /// once: a place in it always means the same printer.
 class QtPrinters final : public Printers {
   public:
-    /// The printers that the machine has now; none where its print system does not answer.
-    QtPrinters();
+    /// The printers that the machine has now; none where its print system has not told them when
+    /// `goes_on`, which is asked every few milliseconds, says no.
+    explicit QtPrinters(const std::function<bool()>& goes_on);
     /// The printers with these device names, one of which is the default unless its name is empty.
     QtPrinters(const QStringList& machine, const QString& machine_default);
 
@@ -53,7 +55,7 @@ class QtPrinters final : public Printers {
     };
 
     explicit QtPrinters(const Machine& machine);
-    [[nodiscard]] static Machine ask();
+    [[nodiscard]] static Machine ask(const std::function<bool()>& goes_on);
 
     std::vector<PrintTarget> targets_;
     bool answered_ = true;

@@ -28,7 +28,7 @@ void JobDelivery::deliver(PrintJob& job, std::size_t cut_off) {
 
 void JobDelivery::deliverAgain(const PreviewedJob& job, const PrintTarget& target) {
     attempt(endedJob(target, *job.pages), [&](EndedJob& told) {
-        PrintJob again(target, *job.pages);
+        PrintJob again(target, pulse_, *job.pages);
         bring(again, job.title, told);
     });
 }
@@ -36,8 +36,8 @@ void JobDelivery::deliverAgain(const PreviewedJob& job, const PrintTarget& targe
 void JobDelivery::save(const PreviewedJob& job, const QString& path) {
     const PrintTarget file{.name = path, .device = Device::pdf_file};
     attempt(endedJob(file, *job.pages), [&](EndedJob& told) {
-        PrintJob again(file, *job.pages);
-        replacePdfFile(path, [&](const QString& draft) { again.write(draft, pulse_); });
+        PrintJob again(file, pulse_, *job.pages);
+        replacePdfFile(path, [&](const QString& draft) { again.write(draft); });
         told.file = path;
     });
 }
@@ -51,11 +51,11 @@ void JobDelivery::tellRefused(const PrintTarget& target, const Failure& refusal)
 void JobDelivery::bring(PrintJob& job, const QString& title, EndedJob& ended) {
     switch (job.target().device) {
     case Device::printer:
-        job.send(pulse_);
+        job.send();
         break;
     case Device::pdf_file:
         ended.file = writePdfFile(folder_, fileStem(clock_(), title),
-                                  [&](const QString& path) { job.write(path, pulse_); });
+                                  [&](const QString& path) { job.write(path); });
         break;
     case Device::preview:
         show_({std::make_shared<const LabelPages>(job.pages()), title});

@@ -55,7 +55,20 @@ LabelFont::LabelFont(const FontChoice& choice, bool bold)
       ascent_(choice.ascent.value_or(ascentOf(font_, metrics_) * choice.scale)) {}
 
 double LabelFont::width(const QString& text, double size) const {
-    return metrics_.horizontalAdvance(text) * scaleFor(size);
+    return advance(text) * scaleFor(size);
+}
+
+// Labels measure the same texts over and over.
+double LabelFont::advance(const QString& text) const {
+    constexpr qsizetype most = 4096;
+    const auto known = advances_.constFind(text);
+    if (known != advances_.constEnd()) {
+        return *known;
+    }
+    if (advances_.size() == most) {
+        advances_.clear();
+    }
+    return *advances_.insert(text, metrics_.horizontalAdvance(text));
 }
 
 const LabelFont& LabelFontCache::get(TextView face, bool bold) {

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -37,8 +38,11 @@ class LabelFont {
     [[nodiscard]] double width(const QString& text, double size) const;
 
   private:
+    [[nodiscard]] double advance(const QString& text) const;
+
     QFont font_;
     QFontMetricsF metrics_;
+    mutable QHash<QString, double> advances_; // of texts that were measured, in pixels
     double scale_;
     double ascent_; // em of the size that is asked for
 };

@@ -1,5 +1,6 @@
 #include "desktop/printing/LabelPage.h"
 
+#include "desktop/printing/ShapedTexts.h"
 #include "desktop/printing/WholeDots.h"
 
 #include <numeric>
@@ -15,12 +16,11 @@ double millimetresRoundedUp(int twips) {
     return static_cast<double>(rounded_up) / 100;
 }
 
-void drawMark(QPainter& painter, const TextMark& mark) {
+void drawMark(QPainter& painter, const TextMark& mark, ShapedTexts& texts) {
     const QTransform millimetres = painter.worldTransform();
     painter.translate(mark.baseline);
     painter.scale(mark.scale, mark.scale);
-    painter.setFont(mark.font);
-    painter.drawText(QPointF(), mark.text);
+    texts.draw(painter, mark.font, mark.text);
     painter.setWorldTransform(millimetres);
 }
 
@@ -39,6 +39,12 @@ void drawMark(QPainter& painter, const BarsMark& mark) {
     } else {
         painter.drawImage(mark.place, mark.row);
     }
+}
+
+// What has no texts.
+template <typename Other>
+void drawMark(QPainter& painter, const Other& mark, const ShapedTexts& /*texts*/) {
+    drawMark(painter, mark);
 }
 
 } // namespace
@@ -60,8 +66,14 @@ std::size_t labelsOn(const LabelPages& pages) {
 }
 
 void draw(QPainter& painter, const LabelPage& page) {
+    ShapedTexts texts;
+    draw(painter, page, texts);
+}
+
+void draw(QPainter& painter, const LabelPage& page, ShapedTexts& texts) {
+    painter.setPen(Qt::black); // that of a window is white on a dark desktop
     for (const Mark& mark : page.marks) {
-        std::visit([&painter](const auto& kind) { drawMark(painter, kind); }, mark);
+        std::visit([&](const auto& kind) { drawMark(painter, kind, texts); }, mark);
     }
 }
 

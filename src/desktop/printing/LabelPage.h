@@ -16,6 +16,8 @@
 
 namespace etiquetas {
 
+class ShapedTexts;
+
 // A page as plain values, all measures in millimetres from its top-left corner.
 
 inline constexpr double millimetres_per_inch = 25.4;
@@ -79,5 +81,8 @@ using LabelPages = std::vector<LabelPage>;
 /// Draws a page with a painter whose unit is one millimetre. All that shows labels, on paper, in a
 /// file or on the screen, draws them by this.
 void draw(QPainter& painter, const LabelPage& page);
+
+/// The same for one of several pages, which share the texts that have been shaped.
+void draw(QPainter& painter, const LabelPage& page, ShapedTexts& texts);
 
 } // namespace etiquetas

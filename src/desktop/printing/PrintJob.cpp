@@ -2,11 +2,12 @@
 
 #include "desktop/machine/Apart.h"
 #include "desktop/machine/DotJob.h"
-#include "desktop/machine/PrintHead.h"
+#include "desktop/machine/KeptHeap.h"
 #include "desktop/machine/PrintSystem.h"
 #include "desktop/printing/DotPage.h"
 #include "desktop/printing/JobPulse.h"
 #include "desktop/printing/PrintFailure.h"
+#include "desktop/printing/ShapedTexts.h"
 
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -30,9 +31,9 @@ constexpr int built_in_resolution = 1200; // dots to the inch
 const QString job_name = u"Etiquetas"_s;
 const QString not_begun = u"o trabalho não pôde ser iniciado"_s;
 
-QString noAnswer(const QString& printer) {
+QString noAnswer(const QString& printer, PrintJob::Patience patience) {
     return u"O sistema de impressão não respondeu em %1 segundos (impressora \"%2\")."_s
-        .arg(print_system_patience.count())
+        .arg(std::chrono::duration<double>(patience).count())
         .arg(printer);
 }
 
@@ -50,17 +51,28 @@ std::unique_ptr<QPrinter> foundPrinter(const QString& name) {
     return printer;
 }
 
-// None for a built-in device.
-std::unique_ptr<QPrinter> makePrinter(const PrintTarget& target) {
+PrintQueue foundQueue(const QString& name) {
+    PrintQueue queue{.printer = foundPrinter(name), .head = {}};
+    if (queue.printer != nullptr) {
+        queue.head = PrintHead::ofQueue(name);
+    }
+    return queue;
+}
+
+// None for a built-in device. The print system is asked once for all that a job must know of it.
+PrintQueue lookUpQueue(const PrintTarget& target, JobPulse& pulse, PrintJob::Patience patience) {
     if (target.device != Device::printer) {
-        return nullptr;
+        return {};
     }
-    auto found =
-        apart([name = target.name] { return foundPrinter(name); }, Deadline(print_system_patience));
+    const auto goes_on = [&pulse, in_time = Deadline(patience)] {
+        pulse.step({});
+        return in_time();
+    };
+    auto found = apart([name = target.name] { return foundQueue(name); }, goes_on);
     if (!found) {
-        throw printFailure(noAnswer(target.name));
+        throw printFailure(noAnswer(target.name, patience));
     }
-    if (*found == nullptr) {
+    if (found->printer == nullptr) {
         throw printFailure(u"A impressora \"%1\" não está instalada."_s.arg(target.name));
     }
     return std::move(*found);
@@ -70,28 +82,26 @@ int resolutionOf(const QPrinter* printer) {
     return printer == nullptr ? built_in_resolution : printer->resolution();
 }
 
-// Whether the job is to go on, so many of its labels having been drawn.
-using GoesOn = std::function<bool(std::size_t labels)>;
-
 // Orientation stays portrait: a page wider than high is not turned then.
 bool startPage(QPagedPaintDevice& device, const QPageSize& size, QPainter& painter) {
     device.setPageSize(size);
     return painter.isActive() ? device.newPage() : painter.begin(&device);
 }
 
-// Tells before each page how many labels have been drawn. False where the device takes no page, or
-// `goes_on` says no.
+// Tells before each page how many labels have been drawn. False where the device takes no page.
 bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const QPageSize& own_page,
-               const GoesOn& goes_on) {
+               const std::function<void(std::size_t labels)>& tell) {
     QPainter painter;
+    ShapedTexts texts;
     std::size_t labels = 0;
     for (const LabelPage& page : pages) {
-        if (!goes_on(labels) || !startPage(device, page.size.value_or(own_page), painter)) {
+        tell(labels);
+        if (!startPage(device, page.size.value_or(own_page), painter)) {
             return false;
         }
         const double dots = device.logicalDpiX() / millimetres_per_inch;
         painter.setWorldTransform(QTransform::fromScale(dots, dots));
-        draw(painter, page);
+        draw(painter, page, texts);
         labels += page.labels;
     }
     return true;
@@ -120,50 +130,8 @@ LabelPages withOwnFonts(LabelPages pages) {
     return pages;
 }
 
-// What the thread that sends a job and the one that waits for it tell each other.
-struct Sending {
-    std::atomic<std::size_t> labels = 0;
-    std::atomic<bool> given_up = false;
-
-    bool goesOn(std::size_t sent) {
-        labels = sent;
-        return !given_up;
-    }
-};
-
-// A job on its way to the print system, on a thread of its own. It goes there once, as the dots of
-// the print head or else as the toolkit's document.
-struct Outgoing {
-    QString queue;
-    std::unique_ptr<QPrinter> printer;
-    std::optional<PrintHead> head; // that takes all pages
-    LabelPages pages;
-    std::shared_ptr<Sending> sending;
-
-    // Tells why the print system has not taken the job; empty where it has.
-    [[nodiscard]] QString operator()() const { return head ? sendDots() : sendDocument(); }
-
-  private:
-    [[nodiscard]] QString sendDots() const {
-        DotJob job(*head);
-        DotPages dots(head->resolution());
-        const QPageSize own_page = head->ownPage();
-        std::size_t labels = 0;
-        for (const LabelPage& page : pages) {
-            if (!sending->goesOn(labels) || !job.add(dots.draw(page, own_page), page.size)) {
-                return not_begun;
-            }
-            labels += page.labels;
-        }
-        return sending->goesOn(labels) ? job.send(queue, job_name) : not_begun;
-    }
-
-    [[nodiscard]] QString sendDocument() const {
-        const auto goes_on = [this](std::size_t labels) { return sending->goesOn(labels); };
-        const QPageSize own_page = printer->pageLayout().pageSize();
-        return drawPages(*printer, pages, own_page, goes_on) ? printSystemError() : not_begun;
-    }
-};
+// Labels that the thread that sends a job has drawn.
+using Drawn = std::atomic<std::size_t>;
 
 bool takesAll(const PrintHead& head, const LabelPages& pages) {
     const auto last_of_size = [](const LabelPage& one, const LabelPage& next) {
@@ -177,50 +145,90 @@ bool takesAll(const PrintHead& head, const LabelPages& pages) {
     return page == pages.end();
 }
 
-// The head behind a queue, where it takes each of the pages; none where the print system does not
-// tell it in time.
-std::optional<PrintHead> headFor(const QString& queue, const LabelPages& pages) {
-    const auto told =
-        apart([queue] { return PrintHead::ofQueue(queue); }, Deadline(print_system_patience));
-    const auto head = told.value_or(std::nullopt);
-    return head && takesAll(*head, pages) ? head : std::nullopt;
-}
+// A job on its way to the print system, on a thread of its own. It goes there once, as the dots of
+// the print head or else as the toolkit's document, when all pages are drawn: drawing asks nobody.
+struct Outgoing {
+    QString name;
+    PrintQueue queue;
+    LabelPages pages;
+    std::shared_ptr<Drawn> drawn;
+
+    // Tells why the print system has not taken the job; empty where it has.
+    [[nodiscard]] QString operator()() const {
+        return queue.head && takesAll(*queue.head, pages) ? sendDots() : sendDocument();
+    }
+
+  private:
+    [[nodiscard]] QString sendDots() const {
+        DotJob job(*queue.head);
+        DotPages dots(queue.head->resolution());
+        const QPageSize own_page = queue.head->ownPage();
+        for (const LabelPage& page : pages) {
+            if (!job.add(dots.draw(page, own_page), page.size)) {
+                return not_begun;
+            }
+            *drawn += page.labels;
+        }
+        return job.send(name, job_name);
+    }
+
+    [[nodiscard]] QString sendDocument() const {
+        const QPageSize own_page = queue.printer->pageLayout().pageSize();
+        const auto tell = [this](std::size_t labels) { *drawn = labels; };
+        return drawPages(*queue.printer, pages, own_page, tell) ? printSystemError() : not_begun;
+    }
+};
 
 // Goes on as long as labels are drawn. The last step sends them all at once, which takes its time.
+// What takes too long is broken off, and is given another second to end by that: it may ask again.
 class Stall {
   public:
-    explicit Stall(std::size_t pages)
-        : patience_(print_system_patience + std::chrono::milliseconds(pages)) {}
+    Stall(PrintJob::Patience patience, std::size_t pages)
+        : patience_(patience + std::chrono::milliseconds(pages)) {}
 
     bool operator()(std::size_t labels) {
         if (std::exchange(labels_, labels) != labels) {
             deadline_ = Deadline(patience_);
         }
-        return deadline_();
+        if (deadline_()) {
+            return true;
+        }
+        if (!std::exchange(is_broken_off_, true)) {
+            end_ = Deadline(std::chrono::seconds(1));
+        }
+        breakOffPrintSystem();
+        return end_();
     }
+
+    [[nodiscard]] bool isBrokenOff() const { return is_broken_off_; }
 
   private:
     std::chrono::milliseconds patience_;
     std::size_t labels_ = 0;
     Deadline deadline_{patience_};
+    Deadline end_{patience_}; // once it is broken off
+    bool is_broken_off_ = false;
 };
 
 } // namespace
 
-int resolutionOf(const PrintTarget& target) {
-    return resolutionOf(makePrinter(target).get());
+int resolutionOf(const PrintTarget& target, JobPulse& pulse) {
+    return resolutionOf(lookUpQueue(target, pulse, print_system_patience).printer.get());
 }
 
-PrintJob::PrintJob(const PrintTarget& target, LabelPages pages)
-    : target_(target), printer_(makePrinter(target)), pages_(std::move(pages)) {}
+PrintJob::PrintJob(const PrintTarget& target, JobPulse& pulse, LabelPages pages, Patience patience)
+    : target_(target), pulse_(&pulse), patience_(patience),
+      queue_(lookUpQueue(target, pulse, patience)), pages_(std::move(pages)) {}
 
 int PrintJob::resolution() const {
-    return resolutionOf(printer_.get());
+    return resolutionOf(queue_.printer.get());
 }
 
 LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
     if (page_ended_) {
+        const std::size_t as_before = pages_.empty() ? 0 : pages_.back().marks.size();
         pages_.push_back({.size = size, .marks = {}});
+        pages_.back().marks.reserve(as_before);
         page_ended_ = false;
     }
     return pages_.back();
@@ -229,26 +237,25 @@ LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
 void PrintJob::endPage(std::size_t labels) {
     if (!page_ended_) {
         pages_.back().labels = labels;
+        pages_.back().marks.shrink_to_fit();
         page_ended_ = true;
     }
 }
 
-void PrintJob::send(JobPulse& pulse) {
-    const auto sending = std::make_shared<Sending>();
+void PrintJob::send() {
+    const auto drawn = std::make_shared<Drawn>(0);
     const std::size_t in_all = labelsOn(pages_);
-    auto head = headFor(target_.name, pages_);
-    Stall stall(pages_.size());
+    Stall stall(patience_, pages_.size());
     const auto goes_on = [&] {
-        const std::size_t labels = sending->labels;
-        pulse.step({.labels = labels, .in_all = in_all, .can_cancel = false});
+        const std::size_t labels = *drawn;
+        pulse_->step({.labels = labels, .in_all = in_all, .can_cancel = false});
         return stall(labels);
     };
-    const auto refusal = apart(Outgoing{target_.name, std::move(printer_), std::move(head),
-                                        withOwnFonts(std::move(pages_)), sending},
-                               goes_on);
-    if (!refusal) {
-        sending->given_up = true;
-        throw printFailure(noAnswer(target_.name) +
+    const auto refusal = apart(
+        Outgoing{target_.name, std::move(queue_), withOwnFonts(std::move(pages_)), drawn}, goes_on);
+    // The print system tells of no error where it was broken off with the pages on their way.
+    if (stall.isBrokenOff()) {
+        throw printFailure(noAnswer(target_.name, patience_) +
                            u" As etiquetas ainda podem sair: confira antes de imprimir de novo."_s);
     }
     if (!refusal->isEmpty()) {
@@ -257,17 +264,17 @@ void PrintJob::send(JobPulse& pulse) {
     }
 }
 
-void PrintJob::write(const QString& path, JobPulse& pulse) {
+void PrintJob::write(const QString& path) {
+    const KeptHeap heap;
     QPdfWriter writer(path);
     writer.setResolution(built_in_resolution);
     writer.setPageMargins(QMarginsF());
     writer.setTitle(job_name);
     const std::size_t in_all = labelsOn(pages_);
-    const auto goes_on = [&pulse, in_all](std::size_t labels) {
-        pulse.step({.labels = labels, .in_all = in_all});
-        return true;
+    const auto tell = [this, in_all](std::size_t labels) {
+        pulse_->step({.labels = labels, .in_all = in_all});
     };
-    if (!drawPages(writer, pages_, builtInPage(), goes_on)) {
+    if (!drawPages(writer, pages_, builtInPage(), tell)) {
         throw printFailure(u"O arquivo \"%1\" não pôde ser gravado."_s.arg(path));
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/machine/Apart.h"
+#include "desktop/machine/PrintHead.h"
 #include "desktop/machine/QtPrinters.h"
 #include "desktop/printing/LabelPage.h"
 
@@ -7,6 +9,7 @@
 #include <QPrinter>
 #include <QString>
 
+#include <chrono>
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -15,16 +18,26 @@ namespace etiquetas {
 
 class JobPulse;
 
-/// Dots to the inch of a printer; fails where the machine does not have it.
-[[nodiscard]] int resolutionOf(const PrintTarget& target);
+/// A queue of the print system, as a job finds it.
+struct PrintQueue {
+    std::unique_ptr<QPrinter> printer;
+    std::optional<PrintHead> head; // where it is a label printer's
+};
+
+/// Dots to the inch of a printer; fails where the machine does not have it, or its print system
+/// does not answer in time. The windows live meanwhile.
+[[nodiscard]] int resolutionOf(const PrintTarget& target, JobPulse& pulse);
 
 /// A job that is being put together. The printer gets nothing before the job is complete, since
 /// the print system takes back no job once it has been begun: an unfinished one would be printed.
 class PrintJob {
   public:
+    using Patience = std::chrono::milliseconds;
+
     /// A job for this printer; fails where the machine does not have it, or its print system does
-    /// not answer in time.
-    explicit PrintJob(const PrintTarget& target, LabelPages pages = {});
+    /// not answer in time. The pulse, which must outlive the job, lets the windows live.
+    PrintJob(const PrintTarget& target, JobPulse& pulse, LabelPages pages = {},
+             Patience patience = print_system_patience);
 
     [[nodiscard]] const PrintTarget& target() const { return target_; }
     /// Dots to the inch.
@@ -41,13 +54,16 @@ class PrintJob {
     // Each of these is done once, and takes the pages.
 
     /// Sends the job to its printer; fails where the print system does not take it, or not in time.
-    void send(JobPulse& pulse);
+    /// What was given up is broken off, so that it is not sent later.
+    void send();
     /// Writes the job into this file, as PDF; fails where that is not possible.
-    void write(const QString& path, JobPulse& pulse);
+    void write(const QString& path);
 
   private:
     PrintTarget target_;
-    std::unique_ptr<QPrinter> printer_; // none for the built-in devices
+    JobPulse* pulse_;
+    Patience patience_;
+    PrintQueue queue_; // none for the built-in devices
     LabelPages pages_;
     bool page_ended_ = true;
 };

@@ -65,15 +65,11 @@ void QtPrintSurface::PaperSize(int kind) {
 }
 
 void QtPrintSurface::Width(int twips) {
-    requirePositive(twips);
-    dropEarlierPageSize();
-    width_ = twips;
+    takePageLength(width_, twips);
 }
 
 void QtPrintSurface::Height(int twips) {
-    requirePositive(twips);
-    dropEarlierPageSize();
-    height_ = twips;
+    takePageLength(height_, twips);
 }
 
 void QtPrintSurface::Print(TextView text) {
@@ -84,7 +80,7 @@ void QtPrintSurface::Print(TextView text) {
     const QPointF baseline(x_ * unitMillimetres(),
                            y_ * unitMillimetres() + font_->ascent(fontMillimetres()));
     drawn.marks.emplace_back(
-        TextMark{baseline, toQString(text), font_->font(), font_->scaleFor(fontMillimetres())});
+        TextMark{baseline, heldOnce(text), font_->font(), font_->scaleFor(fontMillimetres())});
 }
 
 float QtPrintSurface::TextWidth(TextView text) const {
@@ -141,13 +137,28 @@ Text QtPrintSurface::Fonts(std::size_t index) const {
     return toText(faces_[static_cast<qsizetype>(index)]);
 }
 
-// Forgets a size that was set before the current printer was selected.
-void QtPrintSurface::dropEarlierPageSize() {
+// A size that was set before the current printer was selected is forgotten.
+void QtPrintSurface::takePageLength(std::optional<int>& length, int twips) {
+    requirePositive(twips);
     if (size_selection_ != printers_->selections()) {
         size_selection_ = printers_->selections();
         width_.reset();
         height_.reset();
     }
+    length = twips;
+    size_.reset();
+    if (width_ && height_) {
+        size_ = labelPageSize(*width_, *height_);
+    }
+}
+
+// The same text for all marks that have it: a label is printed many times.
+QString QtPrintSurface::heldOnce(TextView text) {
+    constexpr qsizetype most = 4096;
+    if (texts_.size() == most) {
+        texts_.clear();
+    }
+    return *texts_.insert(toQString(text));
 }
 
 double QtPrintSurface::fontMillimetres() const {
@@ -163,19 +174,17 @@ int QtPrintSurface::resolution() const {
     if (job_) {
         return job_->resolution();
     }
+    failWhereRefused();
     const PrintTarget& target = printers_->current();
     const auto known = resolutions_.find(target.name);
     return known != resolutions_.end()
                ? known->second
-               : resolutions_.emplace(target.name, resolutionOf(target)).first->second;
+               : resolutions_.emplace(target.name, resolutionOf(target, delivery_.pulse()))
+                     .first->second;
 }
 
 std::optional<QPageSize> QtPrintSurface::pageSize() const {
-    const bool of_this_selection = size_selection_ == printers_->selections();
-    if (!of_this_selection || !width_ || !height_) {
-        return std::nullopt;
-    }
-    return labelPageSize(*width_, *height_);
+    return size_selection_ == printers_->selections() ? size_ : std::nullopt;
 }
 
 QRectF QtPrintSurface::place(float x, float y, float width, float height) const {
@@ -183,10 +192,14 @@ QRectF QtPrintSurface::place(float x, float y, float width, float height) const 
     return {x * scale, y * scale, width * scale, height * scale};
 }
 
-LabelPage& QtPrintSurface::drawnPage() {
+void QtPrintSurface::failWhereRefused() const {
     if (refused_ && refused_->selection == printers_->selections()) {
         throw refused_->reason;
     }
+}
+
+LabelPage& QtPrintSurface::drawnPage() {
+    failWhereRefused();
     try {
         beginJob();
     } catch (const Failure& failure) {
@@ -202,7 +215,7 @@ LabelPage& QtPrintSurface::drawnPage() {
 void QtPrintSurface::beginJob() {
     if (!job_) {
         refused_.reset();
-        job_.emplace(printers_->current());
+        job_.emplace(printers_->current(), delivery_.pulse());
     }
     delivery_.pulse().step({.labels = count_().finished - job_start_.finished});
 }

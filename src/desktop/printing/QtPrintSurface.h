@@ -12,6 +12,7 @@
 #include <QDateTime>
 #include <QPageSize>
 #include <QRectF>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -81,12 +82,14 @@ class QtPrintSurface final : public PrintSurface {
 
   private:
     void selectFont() { font_ = &fonts_.get(face_, bold_); }
-    void dropEarlierPageSize();
+    void takePageLength(std::optional<int>& length, int twips);
+    [[nodiscard]] QString heldOnce(TextView text);
     [[nodiscard]] double fontMillimetres() const;
     [[nodiscard]] double unitMillimetres() const;
     [[nodiscard]] int resolution() const;
     [[nodiscard]] std::optional<QPageSize> pageSize() const;
     [[nodiscard]] QRectF place(float x, float y, float width, float height) const;
+    void failWhereRefused() const;
     [[nodiscard]] LabelPage& drawnPage();
     void beginJob();
     void endPage();
@@ -101,11 +104,12 @@ class QtPrintSurface final : public PrintSurface {
     };
 
     const QtPrinters* printers_;
-    JobDelivery delivery_;
+    mutable JobDelivery delivery_; // beats while a printer is looked for
     std::function<LabelCount()> count_ = [] { return LabelCount(); };
 
     LabelFontCache fonts_;
     QStringList faces_;
+    QSet<QString> texts_; // that labels are printed with, each held once
     PictureMarks picture_marks_;
     std::optional<PrintJob> job_;
     std::optional<RefusedJob> refused_;
@@ -122,6 +126,7 @@ class QtPrintSurface final : public PrintSurface {
     etiquetas::ScaleMode scale_mode_ = etiquetas::ScaleMode::millimetres;
     std::optional<int> width_;       // twips
     std::optional<int> height_;      // twips
+    std::optional<QPageSize> size_;  // of both
     std::size_t size_selection_ = 0; // selection of the printer that the size was set for
 };
 

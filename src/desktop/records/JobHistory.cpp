@@ -91,7 +91,7 @@ PrintedItem shownItem(const FrmPadrao& form) {
 
 QString tellJob(const PrintedJob& job) {
     const QString labels = job.labels == 1 ? u"1 etiqueta"_s : u"%1 etiquetas"_s.arg(job.labels);
-    return u"Impresso em %1 (%2)"_s.arg(job.time.toString(u"dd/MM/yyyy 'às' HH:mm"_s), labels);
+    return u"impresso em %1 (%2)"_s.arg(job.time.toString(u"dd/MM/yyyy 'às' HH:mm"_s), labels);
 }
 
 JobHistory::JobHistory(const QString& folder)

@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <QStyle>
-#include <QStyleOption>
 
 namespace etiquetas {
 
@@ -11,12 +10,15 @@ void ElidedLabel::setText(const QString& text) {
     setToolTip(text.toHtmlEscaped());
 }
 
-// The frame and ground of its style, and the text over them.
+// The toolkit keeps the height of a label without text from before a change of the font.
+QSize ElidedLabel::sizeHint() const {
+    const QMargins around = contentsMargins();
+    return {QLabel::sizeHint().width(),
+            fontMetrics().lineSpacing() + around.top() + around.bottom()};
+}
+
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
-    QStyleOption option;
-    option.initFrom(this);
     QPainter painter(this);
-    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
     const QRect place = contentsRect();
     style()->drawItemText(&painter, place, static_cast<int>(alignment()), palette(), isEnabled(),
                           fontMetrics().elidedText(text(), Qt::ElideMiddle, place.width()),

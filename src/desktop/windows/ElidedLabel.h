@@ -14,6 +14,7 @@ class ElidedLabel final : public QLabel {
 
     void setText(const QString& text);
 
+    [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 
   protected:

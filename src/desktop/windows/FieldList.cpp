@@ -43,6 +43,11 @@ FieldList::FieldList(QWidget* parent) : QComboBox(parent) {
     applyPaper();
 }
 
+// The toolkit keeps the least height from before a change of the font.
+QSize FieldList::minimumSizeHint() const {
+    return {QComboBox::minimumSizeHint().width(), sizeHint().height()};
+}
+
 void FieldList::applyPaper() {
     setPalette(paperPalette(Qt::white));
     view()->setPalette(palette());

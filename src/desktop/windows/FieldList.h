@@ -12,6 +12,8 @@ class FieldList final : public QComboBox {
   public:
     explicit FieldList(QWidget* parent = nullptr);
 
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
   protected:
     bool event(QEvent* event) override;
 

@@ -6,7 +6,7 @@ namespace etiquetas {
 
 class WorkbenchWindow;
 
-/// A small window that tells the keys of the program. It leaves the main window usable.
+/// The help: the keys of the program, and beside them its manual. It leaves the main window usable.
 class KeysWindow final : public QDialog {
     Q_OBJECT
 

@@ -19,12 +19,14 @@ ProgressWindow::ProgressWindow() : form_(std::make_unique<Ui::ProgressWindow>())
 
 ProgressWindow::~ProgressWindow() = default;
 
-bool ProgressWindow::tell(QWidget& over, std::size_t labels, std::size_t in_all, bool can_cancel) {
+bool ProgressWindow::tell(const QWidget* over, std::size_t labels, std::size_t in_all,
+                          bool can_cancel) {
     const QLocale brazil(QLocale::Portuguese, QLocale::Brazil);
     const QString done = brazil.toString(static_cast<qulonglong>(labels));
     const QString all = brazil.toString(static_cast<qulonglong>(in_all));
-    form_->progress_text->setText(in_all == 0 ? u"%1 etiquetas desenhadas"_s.arg(done)
-                                              : u"%1 de %2 etiquetas"_s.arg(done, all));
+    form_->progress_text->setText(in_all > 0   ? u"%1 de %2 etiquetas"_s.arg(done, all)
+                                  : labels > 0 ? u"%1 etiquetas desenhadas"_s.arg(done)
+                                               : u"Aguardando o sistema de impressão…"_s);
     // A bar without an end moves to and fro.
     form_->progress_bar->setMaximum(static_cast<int>(in_all));
     form_->progress_bar->setValue(static_cast<int>(labels));
@@ -34,14 +36,17 @@ bool ProgressWindow::tell(QWidget& over, std::size_t labels, std::size_t in_all,
     return !is_cancelled_;
 }
 
-void ProgressWindow::openOver(QWidget& over) {
-    if (isHidden()) {
-        winId(); // makes the window that is to know the one below it
-        windowHandle()->setTransientParent(over.windowHandle());
-        adjustSize();
-        move(over.frameGeometry().center() - rect().center());
-        show();
+void ProgressWindow::openOver(const QWidget* over) {
+    if (!isHidden()) {
+        return;
     }
+    adjustSize();
+    if (over != nullptr) {
+        winId(); // makes the window that is to know the one below it
+        windowHandle()->setTransientParent(over->windowHandle());
+        move(over->frameGeometry().center() - rect().center());
+    }
+    show();
 }
 
 void ProgressWindow::rest() {

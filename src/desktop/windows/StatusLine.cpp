@@ -4,7 +4,6 @@
 #include "ui_StatusLine.h"
 
 #include <QFileInfo>
-#include <QStyle>
 
 namespace etiquetas {
 
@@ -12,25 +11,43 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString nameOf(StatusMood mood) {
+// How a mood looks: its ground and its ink, alike on light and dark desktops.
+struct MoodLook {
+    QString name;
+    QColor ground; // none for that of the desktop
+    QColor ink;
+};
+
+MoodLook lookOf(StatusMood mood) {
     switch (mood) {
     case StatusMood::done:
-        return u"done"_s;
+        return {u"done"_s, QColor(0xD7, 0xEF, 0xDC), QColor(0x0B, 0x4F, 0x1D)};
     case StatusMood::warning:
-        return u"warning"_s;
+        return {u"warning"_s, QColor(0xFD, 0xF0, 0xC4), QColor(0x5C, 0x44, 0x00)};
     case StatusMood::failed:
-        return u"failed"_s;
+        return {u"failed"_s, QColor(0xB3, 0x26, 0x1E), Qt::white};
     case StatusMood::plain:
         break;
     }
-    return u"plain"_s;
+    return {u"plain"_s, {}, {}};
 }
 
-// A style sheet looks at a property only when it is put on.
+// A style sheet would keep the label from following the window's font.
 void setMood(QWidget& widget, StatusMood mood) {
-    widget.setProperty("mood", nameOf(mood));
-    widget.style()->unpolish(&widget);
-    widget.style()->polish(&widget);
+    const MoodLook look = lookOf(mood);
+    QPalette palette;
+    if (look.ground.isValid()) {
+        palette.setColor(QPalette::Window, look.ground);
+        palette.setColor(QPalette::WindowText, look.ink);
+    }
+    QFont font; // what it leaves open is the window's
+    if (mood == StatusMood::failed) {
+        font.setBold(true);
+    }
+    widget.setPalette(palette);
+    widget.setFont(font);
+    widget.setAutoFillBackground(look.ground.isValid());
+    widget.setProperty("mood", look.name);
 }
 
 } // namespace
@@ -41,6 +58,8 @@ StatusLine::StatusLine() {
     file_ = form.status_file;
     order_ = form.status_order;
     happened_ = form.status_happened;
+    constexpr QMargins around_text(6, 2, 6, 2);
+    happened_->setContentsMargins(around_text);
     open_pdf_ = form.open_pdf;
     open_folder_ = form.open_folder;
     connect(open_pdf_, &QPushButton::clicked, this, [this] { open_(shown_.pdf); });

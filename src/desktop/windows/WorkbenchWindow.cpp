@@ -14,8 +14,6 @@
 #include <QShortcut>
 #include <QSizePolicy>
 #include <QStatusBar>
-#include <QStyle>
-#include <QVariant>
 #include <QWindow>
 
 #include <utility>
@@ -78,7 +76,7 @@ WorkbenchWindow::WorkbenchWindow() : status_(new StatusLine) {
     }
     new FocusRing(*this);
     addKeys();
-    connect(qApp, &QApplication::focusChanged, this,
+    connect(qApp, &QApplication::focusChanged, &focus_watch_,
             [this](QWidget* /*before*/, QWidget* now) { showFocused(now); });
     // Not where the label kind is: leaving that would load the last order before another is typed.
     form.txtarquivo->setFocus();
@@ -91,6 +89,8 @@ void WorkbenchWindow::addKeys() {
     connect(help, &QShortcut::activated, keys, &KeysWindow::open);
     const auto* const folder = new QShortcut(Qt::Key_F5, this);
     connect(folder, &QShortcut::activated, this, [this] { show_folder_(); });
+    const auto* const findings = new QShortcut(Qt::Key_F6, this);
+    connect(findings, &QShortcut::activated, this, [this] { show_findings_(); });
 }
 
 void WorkbenchWindow::showSize(TwipSize size) {
@@ -145,9 +145,9 @@ void WorkbenchWindow::markSizes(bool not_loaded) {
     }
     static const QRegularExpression sizes(QStringLiteral("^(Label7|txtnumero)_\\d+$"));
     for (QWidget* const widget : findChildren<QWidget*>(sizes)) {
-        widget->setProperty("notLoaded", not_loaded);
-        widget->style()->unpolish(widget);
-        widget->style()->polish(widget);
+        QFont font = widget->font();
+        font.setStrikeOut(not_loaded);
+        widget->setFont(font);
     }
 }
 

@@ -36,7 +36,7 @@ class WorkbenchWindow final : public QMainWindow {
     void showBanner(std::optional<bool> is_lumira);
     /// The foot of the window.
     [[nodiscard]] StatusLine& status() { return *status_; }
-    /// Marks the sizes, by their property "notLoaded", as those of another item than the list
+    /// Marks the sizes, by striking them out, as those of another item than the list
     /// shows.
     void markSizes(bool not_loaded);
     /// What runs when the window is to be closed; tells whether it closes.
@@ -45,6 +45,8 @@ class WorkbenchWindow final : public QMainWindow {
     void onResize(std::function<void()> resized) { resized_ = std::move(resized); }
     /// What runs when the folder of the last labels is to be shown.
     void onShowFolder(std::function<void()> shown) { show_folder_ = std::move(shown); }
+    /// What runs when the findings of the order are to be shown.
+    void onShowFindings(std::function<void()> shown) { show_findings_ = std::move(shown); }
 
   signals:
     /// The font of the desktop or the screen has changed, and the unit with it.
@@ -74,6 +76,8 @@ class WorkbenchWindow final : public QMainWindow {
     std::function<bool()> closed_ = [] { return true; };
     std::function<void()> resized_ = [] {};
     std::function<void()> show_folder_ = [] {};
+    std::function<void()> show_findings_ = [] {};
+    QObject focus_watch_; // ends before the widgets, among which the focus moves as they end
 };
 
 } // namespace etiquetas

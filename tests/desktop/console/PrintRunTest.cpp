@@ -1,7 +1,7 @@
 #include "desktop/console/PrintRun.h"
 
-#include "tests/desktop/SampleWindow.h"
 #include "desktop/console/ConsoleText.h"
+#include "tests/desktop/SampleWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -115,8 +115,10 @@ TEST_F(PrintRunTest, tellsWrongOrdersItemsAndPrinters) {
     wrong.items = {{1, 99}};
     EXPECT_EQ(PrintRun(wrong).run(), exit_code::failure);
     wrong = options(u"Oculta"_s);
-    wrong.printer = u"pdf"_s;
-    EXPECT_EQ(PrintRun(wrong).run(), exit_code::wrong_use);
+    for (const QString& printer : {u"pdf"_s, u"Pré-visualização"_s}) { // which needs its window
+        wrong.printer = printer;
+        EXPECT_EQ(PrintRun(wrong).run(), exit_code::wrong_use);
+    }
     EXPECT_TRUE(jobs().isEmpty());
 }
 

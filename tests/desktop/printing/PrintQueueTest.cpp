@@ -143,7 +143,7 @@ TEST_P(LabelPrinterTest, getsTheVeryDotsOnce) {
     server.addQueue(u"Etiquetas"_s, GetParam().driver);
     const LabelPage page = samplePage();
     JobPulse pulse;
-    PrintJob({.name = u"Etiquetas"_s}, {page, page}).send(pulse);
+    PrintJob({.name = u"Etiquetas"_s}, pulse, {page, page}).send();
     const QByteArray program = server.printed();
     EXPECT_EQ(PrintServer::jobs(u"Etiquetas"_s), 1);
     const QImage drawn = DotPages(203).draw(page, builtInPage());

@@ -102,6 +102,42 @@ TEST_P(DialogWindowTest, testsAMarginWithoutStoringItAndStoresItForTheNextJob) {
 
 INSTANTIATE_TEST_SUITE_P(Margins, DialogWindowTest, testing::ValuesIn(calibrations), CaseName());
 
+// The parts of a window that an operator works, and those that tell something, have names for
+// screen readers.
+static void expectSpoken(QAccessibleInterface& part) {
+    static const QList<QAccessible::Role> told{QAccessible::EditableText, QAccessible::ComboBox,
+                                               QAccessible::Button, QAccessible::Graphic};
+    if (part.state().invisible) {
+        return;
+    }
+    EXPECT_FALSE(told.contains(part.role()) && part.text(QAccessible::Name).isEmpty())
+        << part.object()->objectName().toStdString();
+    for (int i = 0; part.role() != QAccessible::ComboBox && i < part.childCount(); ++i) {
+        if (QAccessibleInterface* const child = part.child(i)) {
+            expectSpoken(*child);
+        }
+    }
+}
+
+TEST_F(DialogWindowTest, tellsScreenReadersTheNamesOfAllParts) {
+    for (const LabelKind kind : {oculta, corrugado}) {
+        load(kind, "1400050831");
+        worker.press(Qt::Key_F2);
+        expectSpoken(*QAccessible::queryAccessibleInterface(&desktop->window()));
+    }
+    worker.choose(u"CMBPRINTER"_s, worker.widget<QComboBox>(u"CMBPRINTER"_s).count() - 1);
+    for (const QString& command : {u"cmd_printacessorio"_s, u"cmd_calibra"_s, u"cmd_parametro"_s}) {
+        worker.turnTo(u"FrmPadrao"_s);
+        worker.click(command);
+    }
+    expectSpoken(*QAccessible::queryAccessibleInterface(&desktop->preview()));
+    for (DialogWindow* const dialog : desktop->dialogs()) {
+        auto& spoken = *QAccessible::queryAccessibleInterface(dialog);
+        EXPECT_EQ(spoken.role(), QAccessible::Dialog);
+        expectSpoken(spoken);
+    }
+}
+
 TEST_F(DialogWindowTest, leadsToTheFirstBlankMarginAndDropsWhatIsNoNumber) {
     load(oculta, "1400050831");
     openDialog(calibrations.front());

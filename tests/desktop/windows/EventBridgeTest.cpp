@@ -84,8 +84,11 @@ TEST_F(EventBridgeTest, walksItsListsByArrowAndLoadsThemWhenTheyAreLeft) {
     worker.press(Qt::Key_Down);
     EXPECT_EQ(worker.text(u"cmb_referencia"_s), u"3104527 | TENIS | AZUL"_s);
     EXPECT_EQ(worker.text(u"txtcor"_s), u"PRETO"_s);
+    const auto& size = worker.widget<QLabel>(u"Label7_0"_s);
+    EXPECT_TRUE(size.font().strikeOut()) << "of another item";
     worker.press(Qt::Key_Return);
     EXPECT_EQ(worker.text(u"txtcor"_s), u"AZUL"_s);
+    EXPECT_FALSE(size.font().strikeOut());
     worker.press(Qt::Key_Up);
     EXPECT_EQ(worker.focused(), u"cmb_referencia"_s);
     worker.type(u"cmb_referencia"_s, u"3104527 | TENIS | AZUL"_s);
