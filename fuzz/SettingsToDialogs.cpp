@@ -41,16 +41,20 @@ struct Shop {
         return values;
     }
 
+    // A text as it comes back once it has been stored: blanks and tabs around it are lost, one pair
+    // of quotes, and what code page 1252 lacks. Nothing is written into a file of UTF-16: what it
+    // showed, a default, it shows again.
+    [[nodiscard]] Text afterStoring(TextView text) {
+        if (isUtf16(settings())) {
+            return Text(text);
+        }
+        const std::string file = withProfileValue("", "s", "k", toCodePage1252(text));
+        return fromCodePage1252(profileValue(file, "s", "k").value());
+    }
+
     Machine machine;
     FrmPadrao form{machine.platform()};
 };
-
-// A text as it comes back once it has been stored: blanks and tabs around it are lost, one pair of
-// quotes, and what code page 1252 lacks.
-Text afterStoring(const Text& text) {
-    const std::string file = withProfileValue("", "s", "k", toCodePage1252(text));
-    return fromCodePage1252(profileValue(file, "s", "k").value());
-}
 
 std::vector<TextView> textsOf(const MargensDialog& dialog, const Stock& stock) {
     std::vector<TextView> texts;
@@ -72,7 +76,7 @@ void checkMarginDialog(Shop& shop, const Stock& stock) {
     margem_enter(dialog.txtmargem1);
     std::vector<Text> stored;
     for (const TextView text : textsOf(dialog, stock)) {
-        stored.push_back(afterStoring(Text(text)));
+        stored.push_back(shop.afterStoring(text));
     }
     cmd_gravar_click(form, dialog);
     require(!dialog.open, "Storing closes the dialog");
@@ -103,7 +107,7 @@ void checkLanguageDialog(Shop& shop, MargensLinguagem dialog) {
     MargensLinguagem_load(form, dialog);
     const auto shown = textsOf(dialog);
     for (std::size_t i = 0; i < opened.size(); ++i) {
-        const Text stored = afterStoring(opened[i]);
+        const Text stored = shop.afterStoring(opened[i]);
         if (!isBlank(stored)) {
             requireEqual(shown[i], stored, "A stored margin of a language is shown again");
         }
@@ -164,7 +168,8 @@ void checkParameters(Shop& shop) {
                 before.cmbparalela2.position == after.cmbparalela2.position,
             "A stored port is shown again");
     requireEqual(after.txtnomecompartilhamento.text,
-                 afterStoring(before.txtnomecompartilhamento.text), "The share is shown again");
+                 shop.afterStoring(before.txtnomecompartilhamento.text),
+                 "The share is shown again");
     shop.machine.picked = after.TXTPATH.text;
     CMD_GETPATH_click(form);
     FrmParametroImpressora_cmd_sair_click(form);
@@ -197,9 +202,11 @@ void checkNextStart(Shop& shop) {
     require(shop.machine.ended, "The exit ends the program");
     FrmPadrao next(shop.machine.platform());
     FrmPadrao_load(next);
-    requireEqual(next.txtarquivo.text, afterStoring(form.txtarquivo.text), "The order is kept");
-    requireEqual(next.txtcliente.text, afterStoring(form.txtcliente.text), "The company is kept");
-    requireEqual(next.txtlote.text, afterStoring(form.txtlote.text), "The addition is kept");
+    requireEqual(next.txtarquivo.text, shop.afterStoring(form.txtarquivo.text),
+                 "The order is kept");
+    requireEqual(next.txtcliente.text, shop.afterStoring(form.txtcliente.text),
+                 "The company is kept");
+    requireEqual(next.txtlote.text, shop.afterStoring(form.txtlote.text), "The addition is kept");
     require(!isBlank(next.lbloculta.caption), "There is a hidden format");
     FrmPadrao_unload(next);
 }
