@@ -1,5 +1,6 @@
 #include "desktop/printing/DotPage.h"
 
+#include "desktop/printing/LineArt.h"
 #include "desktop/printing/WholeDots.h"
 
 #include <QGlyphRun>
@@ -12,7 +13,6 @@ namespace etiquetas {
 
 namespace {
 
-constexpr int black_bit = 0;
 constexpr int white_bit = 1;
 
 QImage blankDots(const QSize& size) {
@@ -31,66 +31,15 @@ QSize dotsOf(const QPageSize& size, int resolution) {
     return {whole(points.width()), whole(points.height())};
 }
 
-bool isDark(uchar tone) {
-    constexpr int darkest_grey = 64;
-    return tone < darkest_grey;
-}
-
-bool isLight(uchar tone) {
-    constexpr int lightest_grey = 192;
-    return tone >= lightest_grey;
-}
-
-// A grey pixel on the soft edge of a shape: both dark and light ones are near.
-bool isEdge(const QImage& grey, int x, int y) {
-    constexpr int near = 2; // pixels
-    const int left = std::max(0, x - near);
-    const int right = std::min(grey.width(), x + near + 1);
-    bool dark = false;
-    bool light = false;
-    for (int row = std::max(0, y - near); row < std::min(grey.height(), y + near + 1); ++row) {
-        const uchar* const tones = grey.constScanLine(row);
-        dark = dark || std::any_of(tones + left, tones + right, isDark);
-        light = light || std::any_of(tones + left, tones + right, isLight);
-    }
-    return dark && light;
-}
-
-// A picture whose greys are but the soft edges of black and white shapes, as those of a logo.
-bool isLineArt(const QImage& grey) {
-    constexpr int most_toned = 3; // of a hundred pixels
-    qint64 toned = 0;
-    for (int y = 0; y < grey.height(); ++y) {
-        const uchar* const row = grey.constScanLine(y);
-        for (int x = 0; x < grey.width(); ++x) {
-            toned += !isDark(row[x]) && !isLight(row[x]) && !isEdge(grey, x, y) ? 1 : 0;
-        }
-    }
-    return toned * 100 <= most_toned * qint64{grey.width()} * grey.height();
-}
-
-// Scaled smoothly first, so that the cut follows the shapes between the pixels.
-QImage cut(const QImage& grey, const QSize& size) {
-    constexpr int half = 128;
-    const QImage scaled = grey.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    QImage dots = blankDots(size);
-    for (int y = 0; y < size.height(); ++y) {
-        const uchar* const row = scaled.constScanLine(y);
-        for (int x = 0; x < size.width(); ++x) {
-            dots.setPixel(x, y, row[x] < half ? black_bit : white_bit);
-        }
-    }
-    return dots;
-}
-
 QImage dithered(const QImage& grey, const QSize& size) {
     return grey.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
         .convertToFormat(QImage::Format_Mono, Qt::MonoOnly | Qt::DiffuseDither);
 }
 
+// What is one bit deep already keeps its shapes.
 QImage oneBit(const QImage& image, const QSize& size) {
     const QImage grey = image.convertToFormat(QImage::Format_Grayscale8);
-    return isLineArt(grey) ? cut(grey, size) : dithered(grey, size);
+    return image.depth() == 1 ? cutAtHalf(grey, size) : dithered(grey, size);
 }
 
 } // namespace

@@ -28,8 +28,17 @@ void drawMark(QPainter& painter, const BoxMark& mark) {
     painter.fillRect(mark.place, mark.colour);
 }
 
+// A painter that smooths, as screens have one, looks at the nearest pixels alone: what is reduced
+// to less than half would lose some.
 void drawMark(QPainter& painter, const ImageMark& mark) {
-    painter.drawImage(mark.place, mark.image);
+    const QSize shown = painter.deviceTransform().mapRect(mark.place).toAlignedRect().size();
+    const bool is_reduced = 2 * shown.width() < mark.image.width();
+    if (is_reduced && painter.testRenderHint(QPainter::SmoothPixmapTransform)) {
+        painter.drawImage(
+            mark.place, mark.image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    } else {
+        painter.drawImage(mark.place, mark.image);
+    }
 }
 
 void drawMark(QPainter& painter, const BarsMark& mark) {

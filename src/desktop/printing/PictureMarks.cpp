@@ -1,6 +1,7 @@
 #include "desktop/printing/PictureMarks.h"
 
 #include "desktop/machine/RasterImage.h"
+#include "desktop/printing/LineArt.h"
 
 #include <QColor>
 
@@ -159,7 +160,8 @@ QImage PictureMarks::keptImage(const Picture& picture, const QRect& crop) {
     if (known != kept_.end()) {
         return known->image;
     }
-    return kept_.emplace_back(Kept{picture, crop, imageOf(*picture, crop)}).image;
+    const QImage image = imageOf(*picture, crop);
+    return kept_.emplace_back(Kept{picture, crop, lineArt(image).value_or(image)}).image;
 }
 
 } // namespace etiquetas

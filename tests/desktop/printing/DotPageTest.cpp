@@ -15,10 +15,10 @@ static double inkIn(const QImage& dots, const QRect& part) {
 }
 
 TEST(DotPages, cutLineArtDitherPhotographsAndKeepThinRules) {
-    QImage logo(40, 40, QImage::Format_RGB32);
-    logo.fill(Qt::white);
-    for (int i = 0; i < 40 * 20; ++i) {
-        logo.setPixel(i % 20, i / 20, qRgb(0, 0, 0));
+    QImage logo(40, 40, QImage::Format_Mono); // black where it is 0
+    logo.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
+    for (int i = 0; i < 40 * 40; ++i) {
+        logo.setPixel(i % 40, i / 40, i % 40 < 20 ? 0 : 1);
     }
     QImage photograph(40, 40, QImage::Format_RGB32);
     photograph.fill(qRgb(128, 128, 128));
