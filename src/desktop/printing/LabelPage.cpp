@@ -34,8 +34,9 @@ void drawMark(QPainter& painter, const ImageMark& mark) {
     const QSize shown = painter.deviceTransform().mapRect(mark.place).toAlignedRect().size();
     const bool is_reduced = 2 * shown.width() < mark.image.width();
     if (is_reduced && painter.testRenderHint(QPainter::SmoothPixmapTransform)) {
-        painter.drawImage(
-            mark.place, mark.image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        const QImage toned = mark.image.convertToFormat(QImage::Format_RGB32);
+        painter.drawImage(mark.place,
+                          toned.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     } else {
         painter.drawImage(mark.place, mark.image);
     }
