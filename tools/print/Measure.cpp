@@ -195,6 +195,7 @@ std::vector<Symbol> symbolsOf(const LabelPage& page, std::size_t number) {
 
 struct Printed {
     std::vector<QImage> pages;
+    std::vector<QImage> bars; // the same pages without their texts, some of which stand over bars
     std::vector<Symbol> symbols;
 };
 
@@ -205,6 +206,12 @@ QImage pageBy(const QString& command, const QString& pdf, std::size_t page, int 
     process.startCommand(command.arg(u"\"%1\""_s.arg(pdf)).arg(page + 1).arg(resolution));
     process.waitForFinished(-1);
     return QImage::fromData(process.readAllStandardOutput());
+}
+
+LabelPage withoutTexts(LabelPage page) {
+    std::erase_if(page.marks,
+                  [](const Mark& mark) { return std::holds_alternative<TextMark>(mark); });
+    return page;
 }
 
 Printed printed(const Kind& kind, int labels, int resolution, const QString& command) {
@@ -223,6 +230,9 @@ Printed printed(const Kind& kind, int labels, int resolution, const QString& com
     for (std::size_t i = 0; i < pages.size(); ++i) {
         result.pages.push_back(command.isEmpty() ? dots.draw(pages[i], builtInPage())
                                                  : pageBy(command, pdf, i, resolution));
+        if (command.isEmpty()) {
+            result.bars.push_back(dots.draw(withoutTexts(pages[i]), builtInPage()));
+        }
         std::ranges::move(symbolsOf(pages[i], i), std::back_inserter(result.symbols));
     }
     for (std::size_t i = 0; i < std::min(texts.size(), result.symbols.size()); ++i) {
@@ -231,30 +241,48 @@ Printed printed(const Kind& kind, int labels, int resolution, const QString& com
     return result;
 }
 
+// A symbol with the paper beside it.
+QImage paperOf(const std::vector<QImage>& pages, const Symbol& symbol, const Print& print,
+               double dots) {
+    const QRectF part = symbol.place.adjusted(-symbol.quiet, 0, symbol.quiet, 0);
+    const QRect place = QRectF(part.topLeft() * dots, part.size() * dots).toAlignedRect();
+    return onPaper(pages[symbol.page].copy(place), print);
+}
+
+double decodabilityOf(const QImage& paper, const Symbol& symbol, double dots) {
+    constexpr double beside = 0.4; // millimetres that bars may stand beside their place
+    const QRectF bars((symbol.quiet - beside) * dots, 1, (symbol.place.width() + 2 * beside) * dots,
+                      (symbol.long_bars - symbol.place.top()) * dots - 2);
+    return eanDecodability(paper, bars).value_or(0);
+}
+
+void reportDecodability(const char* what, const std::vector<QImage>& pages,
+                        const std::vector<Symbol>& symbols, const Print& print, double dots) {
+    std::vector<double> found;
+    for (const Symbol& symbol : symbols) {
+        found.push_back(decodabilityOf(paperOf(pages, symbol, print, dots), symbol, dots));
+    }
+    std::sort(found.begin(), found.end());
+    std::printf("  %s least %.2f median %.2f", what, found.front(), found[found.size() / 2]);
+}
+
 void report(const Kind& kind, const Printed& labels, const Print& print, int resolution) {
     const double dots = resolution / millimetres_per_inch;
     int zbar = 0;
     int zxing = 0;
-    std::vector<double> decodability;
     for (const Symbol& symbol : labels.symbols) {
-        const QRectF part = symbol.place.adjusted(-symbol.quiet, 0, symbol.quiet, 0);
-        const QRect place = QRectF(part.topLeft() * dots, part.size() * dots).toAlignedRect();
-        const QImage paper = onPaper(labels.pages[symbol.page].copy(place), print);
+        const QImage paper = paperOf(labels.pages, symbol, print, dots);
         zbar += zbarReads(paper, symbol.text) ? 1 : 0;
         zxing += zxingReads(paper, symbol.text) ? 1 : 0;
-        if (!kind.code39 && print.growth == 0) {
-            const QRectF bars(symbol.quiet * dots, 1, symbol.place.width() * dots,
-                              (symbol.long_bars - symbol.place.top()) * dots - 2);
-            decodability.push_back(eanDecodability(paper, bars).value_or(0));
-        }
     }
-    std::sort(decodability.begin(), decodability.end());
     const double all = static_cast<double>(labels.symbols.size()) / 100;
     std::printf("%-11s %-18s zbar %6.2f %%  ZXing %6.2f %%", kind.name, print.name, zbar / all,
                 zxing / all);
-    if (!decodability.empty()) {
-        std::printf("  decodability least %.2f median %.2f", decodability.front(),
-                    decodability[decodability.size() / 2]);
+    if (!kind.code39 && print.growth == 0) {
+        reportDecodability("decodability", labels.pages, labels.symbols, print, dots);
+    }
+    if (!kind.code39 && print.growth == 0 && !labels.bars.empty()) {
+        reportDecodability("without texts", labels.bars, labels.symbols, print, dots);
     }
     std::printf("\n");
     std::fflush(stdout);

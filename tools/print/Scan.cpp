@@ -185,14 +185,13 @@ bool zxingReads(const QImage& grey, const QString& text) {
 
 std::optional<double> eanDecodability(const QImage& grey, const QRectF& bars) {
     constexpr int scans = 10;
-    constexpr double around = 2; // dots: bars may stand beside their place, other ink is farther
     double sum = 0;
     int clear = 0;
     for (int i = 0; i < scans; ++i) {
         const double row = bars.top() + bars.height() * (2 * i + 1) / (2 * scans);
         if (const auto scan = scanDecodability(edgesOf(grey, static_cast<int>(row * pixels_to_dot),
-                                                       (bars.left() - around) * pixels_to_dot,
-                                                       (bars.right() + around) * pixels_to_dot))) {
+                                                       bars.left() * pixels_to_dot,
+                                                       bars.right() * pixels_to_dot))) {
             sum += *scan;
             ++clear;
         }

@@ -8,11 +8,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 namespace etiquetas {
 
 namespace {
 
+constexpr int black_bit = 0;
 constexpr int white_bit = 1;
 
 QImage blankDots(const QSize& size) {
@@ -146,13 +148,33 @@ void DotPages::drawMark(QPainter& painter, const ImageMark& mark) {
 }
 
 // A stamp is opaque.
-void DotPages::drawMark(QPainter& painter, const BarsMark& mark) const {
+void DotPages::drawMark(QPainter& painter, const BarsMark& mark) {
     const QRect whole = nearestDots(mark.place);
     painter.fillRect(whole, Qt::white);
-    const QRectF ink = mark.inkPlace();
-    for (const DotBar& bar : barsInDots(mark.ink, ink.left(), ink.right(), resolution_)) {
-        painter.fillRect(bar.begin, whole.top(), bar.end - bar.begin, whole.height(), Qt::black);
+    const std::vector<int>& edges = modulesOf(mark);
+    for (int i = 0; i < mark.ink.width(); ++i) {
+        if (mark.ink.pixelIndex(i, 0) == black_bit) {
+            const auto module = static_cast<std::size_t>(i);
+            painter.fillRect(edges[module], whole.top(), edges[module + 1] - edges[module],
+                             whole.height(), Qt::black);
+        }
     }
+}
+
+// The same symbol stands in the same place of many pages.
+const std::vector<int>& DotPages::modulesOf(const BarsMark& mark) {
+    constexpr std::size_t most_kept = 4096;
+    const QRectF place = mark.inkPlace();
+    const SymbolKey key{mark.symbol.cacheKey(), place.left(), place.right()};
+    if (const auto known = symbols_.find(key); known != symbols_.end()) {
+        return known->second;
+    }
+    if (symbols_.size() >= most_kept) {
+        symbols_.clear();
+    }
+    return symbols_
+        .emplace(key, modulesInDots(mark.symbol, place.left(), place.right(), resolution_))
+        .first->second;
 }
 
 } // namespace etiquetas

@@ -9,6 +9,7 @@
 
 #include <map>
 #include <tuple>
+#include <vector>
 
 namespace etiquetas {
 
@@ -25,8 +26,9 @@ class DotPages {
     [[nodiscard]] QImage draw(const LabelPage& page, const QPageSize& own_size);
 
   private:
-    using ImageKey = std::tuple<qint64, int, int>;     // of the toolkit, width, height
-    using FontKey = std::tuple<QString, bool, double>; // family, bold, dots to the em
+    using ImageKey = std::tuple<qint64, int, int>;        // of the toolkit, width, height
+    using SymbolKey = std::tuple<qint64, double, double>; // of the toolkit, left, right
+    using FontKey = std::tuple<QString, bool, double>;    // family, bold, dots to the em
 
     struct FittedFont {
         QRawFont fitted;
@@ -36,16 +38,18 @@ class DotPages {
     void drawMark(QPainter& painter, const TextMark& mark);
     void drawMark(QPainter& painter, const BoxMark& mark) const;
     void drawMark(QPainter& painter, const ImageMark& mark);
-    void drawMark(QPainter& painter, const BarsMark& mark) const;
+    void drawMark(QPainter& painter, const BarsMark& mark);
 
     bool drawFitted(QPainter& painter, const TextMark& mark, double em);
     [[nodiscard]] double dots(double millimetres) const;
     [[nodiscard]] int nearestDot(double millimetres) const;
     [[nodiscard]] QRect nearestDots(const QRectF& place) const;
     [[nodiscard]] const FittedFont& fittedFont(const QFont& font, double em);
+    [[nodiscard]] const std::vector<int>& modulesOf(const BarsMark& mark);
 
     int resolution_;
     std::map<ImageKey, QImage> images_;
+    std::map<SymbolKey, std::vector<int>> symbols_;
     std::map<FontKey, FittedFont> fonts_;
 };
 

@@ -47,6 +47,7 @@ struct BarsMark {
     QRectF place;  // of the whole row
     QImage row;    // with its blank edges
     QImage ink;    // the part of the row from the symbol's first bar to its last
+    QImage symbol; // the same part of the symbol's first row, which has all of its bars
     int blank = 0; // modules of the row before that part
 
     [[nodiscard]] QRectF inkPlace() const {

@@ -122,15 +122,17 @@ void PictureMarks::stampBars(LabelPage& page, const Raster& picture, const QRect
                              const QRectF& place) {
     const double row_height = place.height() / crop.height();
     const QRect ink = inkOf(picture, crop);
+    QImage symbol;
     for (int row = crop.top(); row <= crop.bottom();) {
         const int end = bandEnd(picture, crop, row);
         const QRectF band(place.left(), place.top() + (row - crop.top()) * row_height,
                           place.width(), (end - row) * row_height);
         const auto pixels = rowOf(picture, crop, row);
         if (hasInk(pixels)) {
-            page.marks.emplace_back(BarsMark{band, keptRow(pixels),
-                                             keptRow(rowOf(picture, ink, row)),
-                                             ink.left() - crop.left()});
+            const QImage bars = keptRow(rowOf(picture, ink, row));
+            symbol = symbol.isNull() ? bars : symbol;
+            page.marks.emplace_back(
+                BarsMark{band, keptRow(pixels), bars, symbol, ink.left() - crop.left()});
         } else {
             page.marks.emplace_back(BoxMark{band, Qt::white});
         }

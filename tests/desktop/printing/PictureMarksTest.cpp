@@ -33,6 +33,7 @@ TEST(PictureMarks, stampsEqualRowsOfBarsAsOneImageOfOneRowAndBlankOnesAsPaper) {
     EXPECT_EQ(rows->row.pixelColor(1, 0), QColor(Qt::black));
     EXPECT_EQ(rows->ink.size(), QSize(1, 1));
     EXPECT_EQ(rows->ink.pixelColor(0, 0), QColor(Qt::black));
+    EXPECT_EQ(rows->symbol.cacheKey(), rows->ink.cacheKey());
     EXPECT_EQ(rows->inkPlace(), QRectF(14, 20, 4, 4));
     EXPECT_EQ(std::get<BarsMark>(page.marks[2]).row.cacheKey(), rows->row.cacheKey());
     const auto* const blank = std::get_if<BoxMark>(&page.marks[1]);
