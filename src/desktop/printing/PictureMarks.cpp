@@ -69,6 +69,7 @@ std::vector<bool> modulesOf(std::span<const Pixel> pixels) {
 QImage oneBitRow(const std::vector<bool>& dark) {
     QImage image(static_cast<int>(dark.size()), 1, QImage::Format_Mono);
     image.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
+    image.fill(0); // the last byte may have bits that are no pixels, and files bear them too
     for (int x = 0; x < image.width(); ++x) {
         image.setPixel(x, 0, dark[static_cast<std::size_t>(x)] ? 0 : 1);
     }
