@@ -2,14 +2,15 @@
 # Installs the Debian packages that are missing for a purpose: "run" (build the program and run it),
 # "test" (build and run the tests as well), "check" (look at form and style, and build with Clang),
 # "bench" (build and run the benchmarks), "fuzz" (build and run the fuzz targets), "package" (make
-# packages and check them) or "windows" (build for Windows, and run that). With nothing missing it only
-# looks, and is quick.
+# "bench" (build and run the benchmarks), "fuzz" (build and run the fuzz targets), "package" (make
+# packages and check them), "windows" (build for Windows, and run that) or "measure" (tools/print). With
+# nothing missing it only looks, and is quick.
 set -euo pipefail
 
 case "${1:-}" in
-    run | test | check | bench | fuzz | package | windows) purpose=$1 ;;
+    run | test | check | bench | fuzz | package | windows | measure) purpose=$1 ;;
     *)
-        echo "usage: ${0##*/} run|test|check|bench|fuzz|package|windows" >&2
+        echo "usage: ${0##*/} run|test|check|bench|fuzz|package|windows|measure" >&2
         exit 2
         ;;
 esac
@@ -19,6 +20,7 @@ packages=(
     qt6-base-dev qt6-translations-l10n                     # window and printing
     libqt6sql6-sqlite                                      # history of the jobs
     libspdlog-dev                                          # log
+    libcups2-dev                                           # print system
     fonts-crosextra-carlito fonts-liberation fonts-open-sans # faces of the labels
     poppler-utils                                          # label pages as pictures
 )
@@ -31,6 +33,7 @@ if [ "$purpose" = test ]; then
         fonts-dejavu-extra        # a face's stand-in where the first one is missing
         xvfb xauth                # a display for the real window
         strace                    # system calls that fail
+        cups                      # a print server, and label drivers
     )
 elif [ "$purpose" = check ]; then
     packages+=(
@@ -53,6 +56,7 @@ elif [ "$purpose" = fuzz ]; then
         clang libclang-rt-dev llvm # compiler, sanitizers and libFuzzer, coverage
         libzxing-dev               # reader of the printed bars
     )
+<<<<<<< HEAD
 elif [ "$purpose" = windows ]; then
     packages+=(
         g++-mingw-w64-x86-64-posix wine64 # compiler, and what runs its programs
@@ -60,6 +64,10 @@ elif [ "$purpose" = windows ]; then
         dpkg-dev tcl                      # sources of libraries, and what makes those of SQLite
         zip zbar-tools xvfb xauth         # the folder as one file; readers of what it prints
     )
+=======
+elif [ "$purpose" = measure ]; then
+    packages+=(pkgconf libzbar-dev libzxing-dev) # decoders
+>>>>>>> 7f2b6a7d0b2868d20e3a2c0999d1a171b91b164e
 elif [ -n "${WAYLAND_DISPLAY:-}" ] && [ -z "${DISPLAY:-}" ]; then
     packages+=(qt6-wayland) # a desktop without X11
 fi

@@ -8,6 +8,7 @@
 #include "desktop/windows/ManualView.h"
 
 #include <QApplication>
+#include <QHashSeed>
 
 namespace {
 
@@ -46,6 +47,9 @@ int runWindow(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // The toolkit's hash tables decide on the order of the fonts in a PDF file: the same labels are
+    // to make the same file.
+    QHashSeed::setDeterministicGlobalSeed();
     return etiquetas::asksForConsole(argc, argv) ? etiquetas::runConsole(argc, argv)
                                                  : runWindow(argc, argv);
 }

@@ -1,6 +1,6 @@
 #include "desktop/machine/PrintSystem.h"
 
-#include <QLibrary>
+#include <cups/cups.h>
 
 #ifdef Q_OS_UNIX
 #include <filesystem>
@@ -12,18 +12,7 @@
 
 namespace etiquetas {
 
-using namespace Qt::StringLiterals;
-
 namespace {
-
-// The toolkit hands jobs to CUPS. That is there wherever the toolkit's printing is, but no part of
-// what the program is built with.
-template <typename Function>
-Function* fromCups(const char* name) {
-    constexpr int version = 2;
-    QLibrary cups(u"cups"_s, version);
-    return reinterpret_cast<Function*>(cups.resolve(name));
-}
 
 #ifdef Q_OS_UNIX
 // Where the print system answers: a socket in the file system, or a port of some machine.
@@ -58,26 +47,19 @@ bool leadsTo(const PrintServer& server, int file) {
 
 } // namespace
 
-// The toolkit does not tell of the refusals of CUPS, which keeps them for each thread.
+// The toolkit hands jobs to CUPS and does not tell of its refusals. CUPS keeps them for each
+// thread.
 QString printSystemError() {
-    constexpr int first_error = 0x0400; // of the status codes of IPP (RFC 8011)
-    auto* const status = fromCups<int()>("cupsLastError");
-    auto* const text = fromCups<const char*()>("cupsLastErrorString");
-    if (status == nullptr || text == nullptr || status() < first_error) {
+    if (cupsLastError() < IPP_STATUS_ERROR_BAD_REQUEST) {
         return {};
     }
-    const char* const told = text();
-    return told != nullptr ? QString::fromLocal8Bit(told) : QString::number(status());
+    const char* const told = cupsLastErrorString();
+    return told != nullptr ? QString::fromLocal8Bit(told) : QString::number(cupsLastError());
 }
 
 #ifdef Q_OS_UNIX
 void breakOffPrintSystem() {
-    auto* const name = fromCups<const char*()>("cupsServer");
-    auto* const port = fromCups<int()>("ippPort");
-    if (name == nullptr || port == nullptr) {
-        return;
-    }
-    const PrintServer server{name(), port()};
+    const PrintServer server{cupsServer(), ippPort()};
     std::error_code none;
     for (const auto& open : std::filesystem::directory_iterator("/dev/fd", none)) {
         const int file = std::stoi(open.path().filename().string());

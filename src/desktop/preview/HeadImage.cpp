@@ -1,8 +1,6 @@
 #include "desktop/preview/HeadImage.h"
 
-#include <QPainter>
-
-#include <cmath>
+#include "desktop/printing/DotPage.h"
 
 namespace etiquetas {
 
@@ -11,17 +9,7 @@ QSizeF sizeOf(const LabelPage& page) {
 }
 
 QImage headImage(const LabelPage& page, int resolution) {
-    const double dots = resolution / millimetres_per_inch;
-    const QSizeF size = sizeOf(page) * dots;
-    QImage image(static_cast<int>(std::lround(size.width())),
-                 static_cast<int>(std::lround(size.height())), QImage::Format_Grayscale8);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.scale(dots, dots);
-    draw(painter, page);
-    painter.end();
-    return image.convertToFormat(QImage::Format_Mono, Qt::MonoOnly | Qt::ThresholdDither);
+    return DotPages(resolution).draw(page, builtInPage());
 }
 
 } // namespace etiquetas

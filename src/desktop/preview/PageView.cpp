@@ -187,7 +187,8 @@ void PageView::drawContent(QPainter& painter) {
     // Where a dot takes pixels of its own it has sharp edges.
     const bool enlarged = scale_ > *resolution_ / millimetres_per_inch;
     painter.setRenderHint(QPainter::SmoothPixmapTransform, !enlarged);
-    painter.drawImage(QRectF(QPointF(), pageSize()), dots_);
+    const double dot = millimetres_per_inch / *resolution_;
+    painter.drawImage(QRectF(QPointF(), QSizeF(dots_.size()) * dot), dots_);
 }
 
 void PageView::drawRulers(QPainter& painter) const {

@@ -1,6 +1,7 @@
 #include "desktop/printing/LabelPage.h"
 
 #include "desktop/printing/ShapedTexts.h"
+#include "desktop/printing/WholeDots.h"
 
 #include <numeric>
 
@@ -27,8 +28,27 @@ void drawMark(QPainter& painter, const BoxMark& mark) {
     painter.fillRect(mark.place, mark.colour);
 }
 
+// A painter that smooths, as screens have one, looks at the nearest pixels alone: what is reduced
+// to less than half would lose some.
 void drawMark(QPainter& painter, const ImageMark& mark) {
-    painter.drawImage(mark.place, mark.image);
+    const QSize shown = painter.deviceTransform().mapRect(mark.place).toAlignedRect().size();
+    const bool is_reduced = 2 * shown.width() < mark.image.width();
+    if (is_reduced && painter.testRenderHint(QPainter::SmoothPixmapTransform)) {
+        const QImage toned = mark.image.convertToFormat(QImage::Format_RGB32);
+        painter.drawImage(mark.place,
+                          toned.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    } else {
+        painter.drawImage(mark.place, mark.image);
+    }
+}
+
+void drawMark(QPainter& painter, const BarsMark& mark) {
+    if (const auto place = placeInWholeDots(mark.inkPlace(), mark.ink.width())) {
+        painter.fillRect(mark.place, Qt::white);
+        painter.drawImage(*place, mark.ink);
+    } else {
+        painter.drawImage(mark.place, mark.row);
+    }
 }
 
 // What has no texts.

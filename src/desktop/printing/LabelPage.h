@@ -42,7 +42,21 @@ struct ImageMark {
     QImage image;
 };
 
-using Mark = std::variant<TextMark, BoxMark, ImageMark>;
+/// Upright bars of a symbol: a row of modules, one bit each, over the whole height of the place.
+struct BarsMark {
+    QRectF place;  // of the whole row
+    QImage row;    // with its blank edges
+    QImage ink;    // the part of the row from the symbol's first bar to its last
+    QImage symbol; // the same part of the symbol's first row, which has all of its bars
+    int blank = 0; // modules of the row before that part
+
+    [[nodiscard]] QRectF inkPlace() const {
+        const double module = place.width() / row.width();
+        return {place.left() + blank * module, place.top(), ink.width() * module, place.height()};
+    }
+};
+
+using Mark = std::variant<TextMark, BoxMark, ImageMark, BarsMark>;
 
 /// What is drawn on one page, in this order. Without a size it is the printer's own page.
 struct LabelPage {

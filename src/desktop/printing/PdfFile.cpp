@@ -1,6 +1,7 @@
 #include "desktop/printing/PdfFile.h"
 
 #include "desktop/machine/Draft.h"
+#include "desktop/printing/PdfBlanks.h"
 #include "desktop/printing/PrintFailure.h"
 
 #include <QDir>
@@ -29,7 +30,7 @@ bool isComplete(QFile& pdf) {
 
 bool isSafe(const QString& path) {
     QFile pdf(path);
-    return pdf.open(QIODevice::ReadWrite) && isComplete(pdf) && forceToDisk(pdf);
+    return pdf.open(QIODevice::ReadWrite) && isComplete(pdf) && mendBlanks(pdf) && forceToDisk(pdf);
 }
 
 void fill(const Draft& draft, const QDir& folder,

@@ -1,6 +1,7 @@
 #include "desktop/printing/PictureMarks.h"
 
 #include "desktop/machine/RasterImage.h"
+#include "desktop/printing/LineArt.h"
 
 #include <QColor>
 
@@ -43,6 +44,21 @@ int bandEnd(const Raster& picture, const QRect& crop, int row) {
     return end;
 }
 
+// Columns from the first to the last that has ink in any row.
+QRect inkOf(const Raster& picture, const QRect& crop) {
+    auto left = static_cast<std::ptrdiff_t>(crop.width());
+    std::ptrdiff_t right = 0;
+    for (int row = crop.top(); row <= crop.bottom(); ++row) {
+        const auto pixels = rowOf(picture, crop, row);
+        const auto first = std::find(pixels.begin(), pixels.end(), black_pixel);
+        const auto past_last = std::find(pixels.rbegin(), pixels.rend(), black_pixel).base();
+        left = std::min(left, first - pixels.begin());
+        right = std::max(right, past_last - pixels.begin());
+    }
+    return {crop.left() + static_cast<int>(left), crop.top(), static_cast<int>(right - left),
+            crop.height()};
+}
+
 std::vector<bool> modulesOf(std::span<const Pixel> pixels) {
     std::vector<bool> dark(pixels.size());
     std::transform(pixels.begin(), pixels.end(), dark.begin(),
@@ -53,6 +69,7 @@ std::vector<bool> modulesOf(std::span<const Pixel> pixels) {
 QImage oneBitRow(const std::vector<bool>& dark) {
     QImage image(static_cast<int>(dark.size()), 1, QImage::Format_Mono);
     image.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
+    image.fill(0); // the last byte may have bits that are no pixels, and files bear them too
     for (int x = 0; x < image.width(); ++x) {
         image.setPixel(x, 0, dark[static_cast<std::size_t>(x)] ? 0 : 1);
     }
@@ -105,14 +122,21 @@ void PictureMarks::stamp(LabelPage& page, const Picture& picture, const QRect& c
 void PictureMarks::stampBars(LabelPage& page, const Raster& picture, const QRect& crop,
                              const QRectF& place) {
     const double row_height = place.height() / crop.height();
-    int row = crop.top();
-    while (row <= crop.bottom()) {
+    const QRect ink = inkOf(picture, crop);
+    QImage symbol;
+    for (int row = crop.top(); row <= crop.bottom();) {
         const int end = bandEnd(picture, crop, row);
         const QRectF band(place.left(), place.top() + (row - crop.top()) * row_height,
                           place.width(), (end - row) * row_height);
         const auto pixels = rowOf(picture, crop, row);
-        page.marks.push_back(hasInk(pixels) ? Mark(ImageMark{band, keptRow(pixels)})
-                                            : Mark(BoxMark{band, Qt::white}));
+        if (hasInk(pixels)) {
+            const QImage bars = keptRow(rowOf(picture, ink, row));
+            symbol = symbol.isNull() ? bars : symbol;
+            page.marks.emplace_back(
+                BarsMark{band, keptRow(pixels), bars, symbol, ink.left() - crop.left()});
+        } else {
+            page.marks.emplace_back(BoxMark{band, Qt::white});
+        }
         row = end;
     }
 }
@@ -139,7 +163,8 @@ QImage PictureMarks::keptImage(const Picture& picture, const QRect& crop) {
     if (known != kept_.end()) {
         return known->image;
     }
-    return kept_.emplace_back(Kept{picture, crop, imageOf(*picture, crop)}).image;
+    const QImage image = imageOf(*picture, crop);
+    return kept_.emplace_back(Kept{picture, crop, lineArt(image).value_or(image)}).image;
 }
 
 } // namespace etiquetas

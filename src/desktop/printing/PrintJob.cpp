@@ -1,8 +1,10 @@
 #include "desktop/printing/PrintJob.h"
 
 #include "desktop/machine/Apart.h"
+#include "desktop/machine/DotJob.h"
 #include "desktop/machine/KeptHeap.h"
 #include "desktop/machine/PrintSystem.h"
+#include "desktop/printing/DotPage.h"
 #include "desktop/printing/JobPulse.h"
 #include "desktop/printing/PrintFailure.h"
 #include "desktop/printing/ShapedTexts.h"
@@ -13,6 +15,7 @@
 #include <QPdfWriter>
 #include <QPrinterInfo>
 
+#include <algorithm>
 #include <atomic>
 #include <functional>
 #include <map>
@@ -27,6 +30,7 @@ namespace {
 constexpr int built_in_resolution = 1200; // dots to the inch
 
 const QString job_name = u"Etiquetas"_s;
+const QString not_begun = u"o trabalho não pôde ser iniciado"_s;
 
 QString noAnswer(const QString& printer, PrintJob::Patience patience) {
     return u"O sistema de impressão não respondeu em %1 segundos (impressora \"%2\")."_s
@@ -49,21 +53,28 @@ std::unique_ptr<QPrinter> foundPrinter(const QString& name) {
     return printer;
 }
 
-// None for a built-in device.
-std::unique_ptr<QPrinter> makePrinter(const PrintTarget& target, JobPulse& pulse,
-                                      PrintJob::Patience patience) {
+PrintQueue foundQueue(const QString& name) {
+    PrintQueue queue{.printer = foundPrinter(name), .head = {}};
+    if (queue.printer != nullptr) {
+        queue.head = PrintHead::ofQueue(name);
+    }
+    return queue;
+}
+
+// None for a built-in device. The print system is asked once for all that a job must know of it.
+PrintQueue lookUpQueue(const PrintTarget& target, JobPulse& pulse, PrintJob::Patience patience) {
     if (target.device != Device::printer) {
-        return nullptr;
+        return {};
     }
     const auto goes_on = [&pulse, in_time = Deadline(patience)] {
         pulse.step({});
         return in_time();
     };
-    auto found = apart([name = target.name] { return foundPrinter(name); }, goes_on);
+    auto found = apart([name = target.name] { return foundQueue(name); }, goes_on);
     if (!found) {
         throw printFailure(noAnswer(target.name, patience));
     }
-    if (*found == nullptr) {
+    if (found->printer == nullptr) {
         throw printFailure(u"A impressora \"%1\" não está instalada."_s.arg(target.name));
     }
     return std::move(*found);
@@ -124,14 +135,51 @@ LabelPages withOwnFonts(LabelPages pages) {
 // Labels that the thread that sends a job has drawn.
 using Drawn = std::atomic<std::size_t>;
 
-// Runs on a thread of its own. Tells why the print system has not taken the job; empty where it
-// has. Drawing asks nobody: the print system hears of the job when all pages are drawn.
-QString sendPages(QPrinter& printer, const LabelPages& pages, Drawn& drawn) {
-    const QPageSize own_page = printer.pageLayout().pageSize();
-    return drawPages(printer, pages, own_page, [&drawn](std::size_t labels) { drawn = labels; })
-               ? printSystemError()
-               : u"o trabalho não pôde ser iniciado"_s;
+bool takesAll(const PrintHead& head, const LabelPages& pages) {
+    const auto last_of_size = [](const LabelPage& one, const LabelPage& next) {
+        return one.size != next.size;
+    };
+    auto page = pages.begin();
+    while (page != pages.end() && head.pageHeader(page->size)) {
+        const auto last = std::adjacent_find(page, pages.end(), last_of_size);
+        page = last == pages.end() ? last : std::next(last);
+    }
+    return page == pages.end();
 }
+
+// A job on its way to the print system, on a thread of its own. It goes there once, as the dots of
+// the print head or else as the toolkit's document, when all pages are drawn: drawing asks nobody.
+struct Outgoing {
+    QString name;
+    PrintQueue queue;
+    LabelPages pages;
+    std::shared_ptr<Drawn> drawn;
+
+    // Tells why the print system has not taken the job; empty where it has.
+    [[nodiscard]] QString operator()() const {
+        return queue.head && takesAll(*queue.head, pages) ? sendDots() : sendDocument();
+    }
+
+  private:
+    [[nodiscard]] QString sendDots() const {
+        DotJob job(*queue.head);
+        DotPages dots(queue.head->resolution());
+        const QPageSize own_page = queue.head->ownPage();
+        for (const LabelPage& page : pages) {
+            if (!job.add(dots.draw(page, own_page), page.size)) {
+                return not_begun;
+            }
+            *drawn += page.labels;
+        }
+        return job.send(name, job_name);
+    }
+
+    [[nodiscard]] QString sendDocument() const {
+        const QPageSize own_page = queue.printer->pageLayout().pageSize();
+        const auto tell = [this](std::size_t labels) { *drawn = labels; };
+        return drawPages(*queue.printer, pages, own_page, tell) ? printSystemError() : not_begun;
+    }
+};
 
 // Goes on as long as labels are drawn. The last step sends them all at once, which takes its time.
 // What takes too long is broken off, and is given another second to end by that: it may ask again.
@@ -167,15 +215,15 @@ class Stall {
 } // namespace
 
 int resolutionOf(const PrintTarget& target, JobPulse& pulse) {
-    return resolutionOf(makePrinter(target, pulse, print_system_patience).get());
+    return resolutionOf(lookUpQueue(target, pulse, print_system_patience).printer.get());
 }
 
 PrintJob::PrintJob(const PrintTarget& target, JobPulse& pulse, LabelPages pages, Patience patience)
     : target_(target), pulse_(&pulse), patience_(patience),
-      printer_(makePrinter(target, pulse, patience)), pages_(std::move(pages)) {}
+      queue_(lookUpQueue(target, pulse, patience)), pages_(std::move(pages)) {}
 
 int PrintJob::resolution() const {
-    return resolutionOf(printer_.get());
+    return resolutionOf(queue_.printer.get());
 }
 
 LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
@@ -205,10 +253,8 @@ void PrintJob::send() {
         pulse_->step({.labels = labels, .in_all = in_all, .can_cancel = false});
         return stall(labels);
     };
-    const auto refusal =
-        apart([printer = std::move(printer_), pages = withOwnFonts(std::move(pages_)),
-               drawn] { return sendPages(*printer, pages, *drawn); },
-              goes_on);
+    const auto refusal = apart(
+        Outgoing{target_.name, std::move(queue_), withOwnFonts(std::move(pages_)), drawn}, goes_on);
     // The print system tells of no error where it was broken off with the pages on their way.
     if (stall.isBrokenOff()) {
         throw printFailure(noAnswer(target_.name, patience_) +

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/machine/Apart.h"
+#include "desktop/machine/PrintHead.h"
 #include "desktop/machine/QtPrinters.h"
 #include "desktop/printing/LabelPage.h"
 
@@ -16,6 +17,12 @@
 namespace etiquetas {
 
 class JobPulse;
+
+/// A queue of the print system, as a job finds it.
+struct PrintQueue {
+    std::unique_ptr<QPrinter> printer;
+    std::optional<PrintHead> head; // where it is a label printer's
+};
 
 /// Dots to the inch of a printer; fails where the machine does not have it, or its print system
 /// does not answer in time. The windows live meanwhile.
@@ -56,7 +63,7 @@ class PrintJob {
     PrintTarget target_;
     JobPulse* pulse_;
     Patience patience_;
-    std::unique_ptr<QPrinter> printer_; // none for the built-in devices
+    PrintQueue queue_; // none for the built-in devices
     LabelPages pages_;
     bool page_ended_ = true;
 };

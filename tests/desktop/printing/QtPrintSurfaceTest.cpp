@@ -267,4 +267,29 @@ TEST_F(QtPrintSurfaceTest, drawsBarsWhereTheirRasterHasThem) {
     EXPECT_EQ(imagesIn(ended.file), 2) << "long and short bars";
 }
 
+TEST_F(QtPrintSurfaceTest, writesTheSameLabelsAsTheSameBytesWithPlainBlanksAndEqualBarsOnce) {
+    QtPictures pictures;
+    const auto written = [&] {
+        for (const float y : {5.0F, 15.0F, 25.0F}) {
+            PictureBox bars(pictures);
+            DesenhaEan13(bars, 1, u"200468135790", false);
+            surface.PaintPicture(bars.Picture(), 60, y, 35, 8);
+            for (const TextView face : {u"Calibri", u"Estrangelo Edessa"}) {
+                surface.FontName(face);
+                print(5, y, u"2 TIRAS – COR CAFÉ");
+            }
+        }
+        QFile file(finished());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        QByteArray bytes = file.readAll();
+        constexpr qsizetype date = 30; // bytes
+        return bytes.remove(bytes.indexOf("/CreationDate"), date);
+    };
+    const QByteArray bytes = written();
+    EXPECT_TRUE(written() == bytes);
+    EXPECT_EQ(imagesIn(ended.file), 2) << "long and short bars";
+    EXPECT_EQ(bytes.count("<0020>"), 2) << "a blank in the table of each face";
+    EXPECT_EQ(bytes.count("<0009>"), 0) << "a tab";
+}
+
 } // namespace etiquetas::test

@@ -1,0 +1,93 @@
+#include "tests/desktop/PrintServer.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTcpSocket>
+#include <gtest/gtest.h>
+
+namespace etiquetas::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString toldBy(const QString& tool, const QStringList& arguments) {
+    QProcess process;
+    process.start(tool, arguments);
+    process.waitForFinished();
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
+    return QString::fromLocal8Bit(process.readAllStandardOutput());
+}
+
+} // namespace
+
+PrintServer::PrintServer() {
+    for (const char* name : {"spool", "spool/tmp", "cache", "state", "logs", "root"}) {
+        QDir(folder_.path()).mkpath(QLatin1String(name));
+    }
+    // Filters run under a user of their own.
+    QFile::setPermissions(folder_.path(), QFile::permissions(folder_.path()) | QFile::ExeGroup |
+                                              QFile::ReadOther | QFile::ExeOther);
+    writeSettings();
+    printer_.listen(QHostAddress::LocalHost);
+    qputenv("CUPS_SERVER", folder_.filePath(u"socket"_s).toLocal8Bit());
+    server_.start(u"/usr/sbin/cupsd"_s, {u"-f"_s, u"-c"_s, folder_.filePath(u"cupsd.conf"_s),
+                                         u"-s"_s, folder_.filePath(u"cups-files.conf"_s)});
+    constexpr int tries = 200;
+    for (int i = 0; i < tries && !is_running_ && server_.state() != QProcess::NotRunning; ++i) {
+        constexpr int pause = 50; // milliseconds
+        server_.waitForFinished(pause);
+        is_running_ = QFile::exists(folder_.filePath(u"socket"_s));
+    }
+}
+
+PrintServer::~PrintServer() {
+    server_.terminate();
+    server_.waitForFinished();
+    qunsetenv("CUPS_SERVER");
+}
+
+void PrintServer::writeSettings() const {
+    const auto write = [this](const QString& name, const QString& text) {
+        QFile file(folder_.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text.toLocal8Bit());
+    };
+    write(u"cupsd.conf"_s,
+          u"Listen %1/socket\nBrowsing Off\nDefaultAuthType None\n"
+          "WebInterface No\nPreserveJobHistory Yes\n"
+          "<Policy default>\n<Limit All>\nOrder deny,allow\n</Limit>\n</Policy>\n"
+          "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"_s.arg(folder_.path()));
+    write(u"cups-files.conf"_s,
+          u"SystemGroup root\nServerRoot %1/root\nRequestRoot %1/spool\n"
+          "TempDir %1/spool/tmp\nCacheDir %1/cache\nStateDir %1/state\n"
+          "AccessLog %1/logs/access\nErrorLog %1/logs/error\nPageLog %1/logs/page\n"_s.arg(
+              folder_.path()));
+}
+
+void PrintServer::addQueue(const QString& name, const QString& driver) const {
+    toldBy(u"/usr/sbin/lpadmin"_s,
+           {u"-p"_s, name, u"-E"_s, u"-v"_s,
+            u"socket://127.0.0.1:%1/?waiteof=false"_s.arg(printer_.serverPort()), u"-m"_s,
+            u"drv:///sample.drv/%1.ppd"_s.arg(driver)});
+}
+
+QByteArray PrintServer::printed() {
+    constexpr int patience = 20000; // milliseconds
+    QByteArray program;
+    if (printer_.waitForNewConnection(patience)) {
+        QTcpSocket& job = *printer_.nextPendingConnection();
+        while (job.waitForReadyRead(patience)) {
+            program += job.readAll();
+        }
+    }
+    QFile log(folder_.filePath(u"logs/error"_s));
+    EXPECT_TRUE(!program.isEmpty() || !log.open(QIODevice::ReadOnly)) << log.readAll().constData();
+    return program;
+}
+
+qsizetype PrintServer::jobs(const QString& queue) {
+    return toldBy(u"lpstat"_s, {u"-W"_s, u"all"_s, u"-o"_s, queue}).count(u'\n');
+}
+
+} // namespace etiquetas::test
