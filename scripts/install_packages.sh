@@ -2,7 +2,6 @@
 # Installs the Debian packages that are missing for a purpose: "run" (build the program and run it),
 # "test" (build and run the tests as well), "check" (look at form and style, and build with Clang),
 # "bench" (build and run the benchmarks), "fuzz" (build and run the fuzz targets), "package" (make
-# "bench" (build and run the benchmarks), "fuzz" (build and run the fuzz targets), "package" (make
 # packages and check them), "windows" (build for Windows, and run that) or "measure" (tools/print). With
 # nothing missing it only looks, and is quick.
 set -euo pipefail
@@ -56,7 +55,6 @@ elif [ "$purpose" = fuzz ]; then
         clang libclang-rt-dev llvm # compiler, sanitizers and libFuzzer, coverage
         libzxing-dev               # reader of the printed bars
     )
-<<<<<<< HEAD
 elif [ "$purpose" = windows ]; then
     packages+=(
         g++-mingw-w64-x86-64-posix wine64 # compiler, and what runs its programs
@@ -64,10 +62,8 @@ elif [ "$purpose" = windows ]; then
         dpkg-dev tcl                      # sources of libraries, and what makes those of SQLite
         zip zbar-tools xvfb xauth         # the folder as one file; readers of what it prints
     )
-=======
 elif [ "$purpose" = measure ]; then
     packages+=(pkgconf libzbar-dev libzxing-dev) # decoders
->>>>>>> 7f2b6a7d0b2868d20e3a2c0999d1a171b91b164e
 elif [ -n "${WAYLAND_DISPLAY:-}" ] && [ -z "${DISPLAY:-}" ]; then
     packages+=(qt6-wayland) # a desktop without X11
 fi

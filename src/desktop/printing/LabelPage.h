@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QFont>
 #include <QImage>
+#include <QList>
 #include <QPageSize>
 #include <QPainter>
 #include <QPointF>
@@ -28,18 +29,24 @@ struct TextMark {
     QString text;
     QFont font;
     double scale = 1.0;
+
+    friend bool operator==(const TextMark&, const TextMark&) = default;
 };
 
 /// A box filled with one colour.
 struct BoxMark {
     QRectF place;
     QColor colour;
+
+    friend bool operator==(const BoxMark&, const BoxMark&) = default;
 };
 
 /// An image stretched over its place.
 struct ImageMark {
     QRectF place;
     QImage image;
+
+    friend bool operator==(const ImageMark&, const ImageMark&) = default;
 };
 
 /// Upright bars of a symbol: a row of modules, one bit each, over the whole height of the place.
@@ -49,6 +56,8 @@ struct BarsMark {
     QImage ink;    // the part of the row from the symbol's first bar to its last
     QImage symbol; // the same part of the symbol's first row, which has all of its bars
     int blank = 0; // modules of the row before that part
+
+    friend bool operator==(const BarsMark&, const BarsMark&) = default;
 
     [[nodiscard]] QRectF inkPlace() const {
         const double module = place.width() / row.width();
@@ -61,7 +70,7 @@ using Mark = std::variant<TextMark, BoxMark, ImageMark, BarsMark>;
 /// What is drawn on one page, in this order. Without a size it is the printer's own page.
 struct LabelPage {
     std::optional<QPageSize> size;
-    std::vector<Mark> marks;
+    QList<Mark> marks;      // which equal pages share
     std::size_t labels = 0; // that stand on it whole
 };
 

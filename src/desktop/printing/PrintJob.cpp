@@ -117,17 +117,31 @@ QFont detached(const QFont& font) {
     return own;
 }
 
-// One font of its own for each font of the pages, so that it is stored once in the job.
-LabelPages withOwnFonts(LabelPages pages) {
-    std::map<QString, QFont> own;
-    for (LabelPage& page : pages) {
-        for (Mark& mark : page.marks) {
-            if (auto* const text = std::get_if<TextMark>(&mark)) {
-                const auto [known, is_new] = own.try_emplace(text->font.key());
-                known->second = is_new ? detached(text->font) : known->second;
-                text->font = known->second;
-            }
+using OwnFonts = std::map<QString, QFont>;
+
+QList<Mark> withOwnFonts(QList<Mark> marks, OwnFonts& own) {
+    for (Mark& mark : marks) {
+        if (auto* const text = std::get_if<TextMark>(&mark)) {
+            const auto [known, is_new] = own.try_emplace(text->font.key());
+            known->second = is_new ? detached(text->font) : known->second;
+            text->font = known->second;
         }
+    }
+    return marks;
+}
+
+// One font of its own for each font of the pages, so that it is stored once in the job. Equal pages
+// share their marks still.
+LabelPages withOwnFonts(LabelPages pages) {
+    OwnFonts own;
+    QList<Mark> before;
+    QList<Mark> before_by_own;
+    for (LabelPage& page : pages) {
+        if (!page.marks.isSharedWith(before)) {
+            before = page.marks;
+            before_by_own = withOwnFonts(page.marks, own);
+        }
+        page.marks = before_by_own;
     }
     return pages;
 }
@@ -228,7 +242,7 @@ int PrintJob::resolution() const {
 
 LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
     if (page_ended_) {
-        const std::size_t as_before = pages_.empty() ? 0 : pages_.back().marks.size();
+        const qsizetype as_before = pages_.empty() ? 0 : pages_.back().marks.size();
         pages_.push_back({.size = size, .marks = {}});
         pages_.back().marks.reserve(as_before);
         page_ended_ = false;
@@ -237,10 +251,16 @@ LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
 }
 
 void PrintJob::endPage(std::size_t labels) {
-    if (!page_ended_) {
-        pages_.back().labels = labels;
-        pages_.back().marks.shrink_to_fit();
-        page_ended_ = true;
+    if (page_ended_) {
+        return;
+    }
+    page_ended_ = true;
+    LabelPage& page = pages_.back();
+    page.labels = labels;
+    if (pages_.size() > 1 && page.marks == pages_.rbegin()[1].marks) {
+        page.marks = pages_.rbegin()[1].marks; // of a label that is printed many times
+    } else {
+        page.marks.squeeze();
     }
 }
 

@@ -23,7 +23,7 @@ TEST(PictureMarks, stampsEqualRowsOfBarsAsOneImageOfOneRowAndBlankOnesAsPaper) {
     PictureMarks marks;
     marks.stamp(page, bars, QRect(0, 0, 2, 3), QRectF(10, 20, 8, 6));
     marks.stamp(page, std::make_shared<const Raster>(*bars), QRect(0, 0, 2, 3), QRectF());
-    ASSERT_EQ(page.marks.size(), 4U);
+    ASSERT_EQ(page.marks.size(), 4);
     const auto* const rows = std::get_if<BarsMark>(page.marks.data());
     ASSERT_NE(rows, nullptr);
     EXPECT_EQ(rows->place, QRectF(10, 20, 8, 4));
