@@ -1,5 +1,4 @@
 #include "barcodes/EAN13and8.h"
-#include "desktop/machine/PrintHead.h"
 #include "desktop/machine/QtPictures.h"
 #include "desktop/printing/DotPage.h"
 #include "desktop/printing/JobPulse.h"
