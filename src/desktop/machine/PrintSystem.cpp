@@ -19,7 +19,7 @@ std::optional<QPageSize> PrintQueue::ownPage() const {
 }
 
 QPageSize PrintQueue::bounded(const QPageSize& page) const {
-    if (!smallest_.isValid() || !largest_.isValid()) {
+    if (largest_.isEmpty()) {
         return page;
     }
     const QSizeF points = page.size(QPageSize::Point);

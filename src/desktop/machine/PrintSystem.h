@@ -53,8 +53,9 @@ class DocumentJob {
 
     /// What the pages are drawn on, from their very corner.
     [[nodiscard]] virtual QPagedPaintDevice& pages() = 0;
-    /// Hands the job over, once it is drawn to its end.
-    [[nodiscard]] virtual Submission send() = 0;
+    /// Hands the job over, once it is drawn to its end. Where a job asks for one page, that is
+    /// `page`: the one that holds each of them.
+    [[nodiscard]] virtual Submission send(const QPageSize& page) = 0;
 };
 
 /// A queue of the machine's print system, as a job finds it. Its functions ask the print system,
@@ -85,8 +86,8 @@ class PrintQueue {
 
   private:
     QPageSize own_page_;
-    QSizeF smallest_; // points; where these are not valid, only some sizes are taken
-    QSizeF largest_;
+    QSizeF smallest_; // points
+    QSizeF largest_;  // empty where the driver tells none, or takes only some sizes
 };
 
 /// The queue of this name; none where the machine has no such one. Asks the print system.

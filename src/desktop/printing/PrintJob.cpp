@@ -59,14 +59,27 @@ int resolutionOf(const PrintQueue* queue) {
     return queue == nullptr ? built_in_resolution : queue->resolution();
 }
 
+// The size that a page is drawn in.
+using PageSizes = std::function<QPageSize(const LabelPage& page)>;
+
+// The page that holds each of these.
+QPageSize pageOfAll(const LabelPages& pages, const PageSizes& size_of) {
+    QPageSize all = size_of(pages.front());
+    for (const LabelPage& page : pages) {
+        const QSizeF before = all.size(QPageSize::Millimeter);
+        const QSizeF both = before.expandedTo(size_of(page).size(QPageSize::Millimeter));
+        if (both != before) {
+            all = QPageSize(both, QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+        }
+    }
+    return all;
+}
+
 // Orientation stays portrait: a page wider than high is not turned then.
 bool startPage(QPagedPaintDevice& device, const QPageSize& size, QPainter& painter) {
     device.setPageSize(size);
     return painter.isActive() ? device.newPage() : painter.begin(&device);
 }
-
-// The size that a page is drawn in.
-using PageSizes = std::function<QPageSize(const LabelPage& page)>;
 
 // Tells before each page how many labels have been drawn. False where the device takes no page.
 bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const PageSizes& size_of,
@@ -145,7 +158,7 @@ struct Outgoing {
         };
         const auto tell = [this](std::size_t labels) { *drawn = labels; };
         return drawPages(job->pages(), pages, size_of, tell)
-                   ? job->send()
+                   ? job->send(pageOfAll(pages, size_of))
                    : Submission{.refusal = not_begun, .waits = {}};
     }
 };

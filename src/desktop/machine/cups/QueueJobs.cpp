@@ -73,12 +73,12 @@ class JobOptions {
 
 } // namespace
 
-// Labels come out one to a page, of their own size, whatever else the queue is set to.
+// Labels come out one to a page, upright and of their own size, whatever else the queue is set to;
+// on a sheet that is larger they stand in its corner.
 int QueueDocument::createdJob() const {
-    JobOptions options{{"sides", "one-sided"},
-                       {"number-up", "1"},
-                       {"print-scaling", "none"},
-                       {"job-sheets", "none,none"}};
+    JobOptions options{{"sides", "one-sided"},    {"number-up", "1"},
+                       {"print-scaling", "none"}, {"nopdfAutoRotate", "true"},
+                       {"position", "top-left"},  {"job-sheets", "none,none"}};
     if (!page_.isEmpty()) {
         options.add({"media", page_.constData()});
     }
@@ -149,8 +149,8 @@ PdfJob::PdfJob(QueueDocument document, int resolution)
     writer_.setPageMargins(QMarginsF());
 }
 
-Submission PdfJob::send() {
-    document_.takePage(writer_.pageLayout().pageSize().key());
+Submission PdfJob::send(const QPageSize& page) {
+    document_.takePage(page.key());
     return document_.send(CUPS_FORMAT_PDF);
 }
 

@@ -26,7 +26,8 @@ class QueueDocument {
 
     /// What the job holds.
     [[nodiscard]] QByteArray& bytes() { return bytes_; }
-    /// The page of all of the job, as the print system calls it; without it, the queue's own.
+    /// The page that the whole job asks for, as the print system calls it; that of a driver who
+    /// reads it in the job itself needs none.
     void takePage(const QString& name) { page_ = name.toLatin1(); }
 
     /// Sends what the job holds, which is of this type.
@@ -73,7 +74,7 @@ class PdfJob final : public DocumentJob {
     PdfJob(QueueDocument document, int resolution);
 
     [[nodiscard]] QPagedPaintDevice& pages() override { return writer_; }
-    [[nodiscard]] Submission send() override;
+    [[nodiscard]] Submission send(const QPageSize& page) override;
 
   private:
     QueueDocument document_;

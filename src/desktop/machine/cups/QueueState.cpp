@@ -34,8 +34,8 @@ QString printSystemError() {
     if (cupsLastError() < IPP_STATUS_ERROR_BAD_REQUEST) {
         return {};
     }
-    const char* const told = cupsLastErrorString();
-    return told != nullptr ? QString::fromLocal8Bit(told) : QString::number(cupsLastError());
+    const QString told = QString::fromLocal8Bit(cupsLastErrorString());
+    return told.endsWith(u'.') ? told.chopped(1) : told;
 }
 
 QString standstillOf(const QByteArray& queue) {

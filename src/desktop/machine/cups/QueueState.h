@@ -5,7 +5,7 @@
 
 namespace etiquetas {
 
-/// Why the last call of this thread to CUPS failed; empty where it did not.
+/// Why the last call of this thread to CUPS failed, without a full stop; empty where it did not.
 [[nodiscard]] QString printSystemError();
 
 /// Asks why a queue prints nothing for now: it was stopped, by hand or by a fault of its printer.
