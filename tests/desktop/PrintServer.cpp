@@ -58,8 +58,9 @@ void PrintServer::addQueue(const QString& name, const QString& driver) {
     printer.listen(QHostAddress::LocalHost);
     tell(u"/usr/sbin/lpadmin"_s,
          {u"-p"_s, name, u"-E"_s, u"-v"_s,
-          u"socket://127.0.0.1:%1/?waiteof=false"_s.arg(printer.serverPort()), u"-m"_s, driver,
-          u"-o"_s, u"cupsSNMPSupplies=false"_s});
+          u"socket://127.0.0.1:%1/?waiteof=false"_s.arg(printer.serverPort()),
+          driver.startsWith(u'/') ? u"-P"_s : u"-m"_s, driver, u"-o"_s,
+          u"cupsSNMPSupplies=false"_s});
 }
 
 QString PrintServer::tell(const QString& tool, const QStringList& arguments) {

@@ -20,7 +20,7 @@ class PrintServer {
 
     /// False where the machine lacks the print system, or this user may not start it.
     [[nodiscard]] bool isRunning() const { return is_running_; }
-    /// Adds a queue with a driver, called as `lpadmin -m` calls it.
+    /// Adds a queue with a driver, called as `lpadmin -m` calls it, or told by the path of its PPD.
     void addQueue(const QString& name, const QString& driver);
     /// Runs a tool of the print system, which must not fail, and tells what it tells.
     static QString tell(const QString& tool, const QStringList& arguments);

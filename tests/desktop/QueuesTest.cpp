@@ -26,8 +26,8 @@ static const std::vector<Queue> queues{
     {u"EPL1"_s, u"drv:///sample.drv/zebraep1.ppd"_s, epl1Dots, "\x1BM01"},
     {u"CPCL"_s, u"drv:///sample.drv/zebracpl.ppd"_s, cpclDots, "! 0 "},
     {u"ZPL"_s, u"drv:///sample.drv/zebra.ppd"_s, zplDots, "~DGR:CUPS.GRF,"},
-    {u"Expedição"_s, u"lsb/usr/cupsfilters/Fuji_Xerox-DocuPrint_CM305_df-PDF.ppd"_s},
-    {u"Folhas"_s, u"lsb/usr/cupsfilters/Generic-PDF_Printer-PDF.ppd"_s, nullptr, {}, {612, 792}},
+    {u"Expedição"_s, u"/usr/share/ppd/cupsfilters/Fuji_Xerox-DocuPrint_CM305_df-PDF.ppd"_s},
+    {u"Folhas"_s, u"/usr/share/ppd/cupsfilters/Generic-PDF_Printer-PDF.ppd"_s, nullptr, {}, {612, 792}},
     {u"Crua"_s, u"raw"_s},
 };
 // clang-format on
@@ -47,18 +47,10 @@ static QStringList symbolsOf(const QImage& page, LabelKind kind) {
 
 class QueuesTest : public testing::Test, protected SampleWindow {
   protected:
-    QueuesTest() {
-        if (server.isRunning()) {
-            for (const Queue& queue : queues) {
-                server.addQueue(queue.name, queue.driver);
-            }
-        }
-    }
     void SetUp() override {
         if (!server.isRunning()) {
             GTEST_SKIP() << "no print server can be started here";
         }
-        open();
     }
 
     void choosePrinter(const QString& name) {
@@ -101,6 +93,10 @@ class QueuesOfAKindTest : public QueuesTest, public testing::WithParamInterface<
 
 TEST_P(QueuesOfAKindTest, bringEachLabelWholeToTheirPrinters) {
     const LabelKind kind = GetParam();
+    for (const Queue& queue : queues) {
+        server.addQueue(queue.name, queue.driver);
+    }
+    open();
     load(kind, "1400050831");
     choosePrinter(u"PDF"_s);
     const Arrived expected = inFile(writtenBy(u"cmd_printacessorio"_s), kind, {});
@@ -121,6 +117,10 @@ INSTANTIATE_TEST_SUITE_P(Kinds, QueuesOfAKindTest,
                          testing::Values(frente_de_caixa, corrugado, acessorio, oculta));
 
 TEST_F(QueuesTest, tellWhereTheyAreStoppedRejectOrAreGone) {
+    for (const QString& queue : {u"Crua"_s, u"EPL2"_s, u"ZPL"_s}) {
+        server.addQueue(queue, u"raw"_s);
+    }
+    open();
     PrintServer::tell(u"/usr/sbin/cupsdisable"_s, {u"-r"_s, u"Sem fita"_s, u"Crua"_s});
     EXPECT_EQ(printOn(u"Crua"_s, oculta).toStdString(),
               "Em espera em Crua (trabalho 1): 28 etiquetas, 14 páginas · a fila está parada: "
