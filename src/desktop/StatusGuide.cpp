@@ -31,10 +31,20 @@ QString sizeOf(const EndedJob& job) {
            counted(job.pages, u"página"_s, u"páginas"_s);
 }
 
+QString queuedText(const EndedJob& job) {
+    const QString deed = job.waits.isEmpty() ? u"Impresso em %1"_s : u"Em espera em %1"_s;
+    const QString number = job.number == 0 ? QString() : u" (trabalho %1)"_s.arg(job.number);
+    return deed.arg(job.target.name) + number + u": "_s + sizeOf(job);
+}
+
+QString standstillText(const EndedJob& job) {
+    return u"a fila está parada: %1"_s.arg(job.waits);
+}
+
 QString deliveredText(const EndedJob& job) {
     switch (job.target.device) {
     case Device::printer:
-        return u"Impresso em %1: %2"_s.arg(job.target.name, sizeOf(job));
+        return queuedText(job);
     case Device::preview:
         return u"Na pré-visualização: %1"_s.arg(sizeOf(job));
     case Device::pdf_file:
@@ -179,7 +189,14 @@ QString StatusGuide::doubt() const {
     if (!job_->delivered) {
         return undeliveredText(*job_);
     }
-    return job_->cut_off > 0 ? cutOffText(*job_) : QString();
+    QStringList doubts;
+    if (!job_->waits.isEmpty()) {
+        doubts << queuedText(*job_) << standstillText(*job_);
+    }
+    if (job_->cut_off > 0) {
+        doubts << cutOffText(*job_);
+    }
+    return doubts.join(separator);
 }
 
 QString StatusGuide::orderText() const {
@@ -226,6 +243,9 @@ QStringList StatusGuide::happenings() const {
     }
     if (job_) {
         told << (job_->delivered ? deliveredText(*job_) : undeliveredText(*job_));
+        if (!job_->waits.isEmpty()) {
+            told << standstillText(*job_);
+        }
         if (job_->cut_off > 0) {
             told << cutOffText(*job_);
         }
@@ -257,7 +277,8 @@ StatusMood StatusGuide::mood() const {
         return StatusMood::failed;
     }
     const bool warns = printers_missing_ || folder_fails_ || !taken_lines_.isEmpty() ||
-                       !printed_before_.isEmpty() || (job_ && job_->cut_off > 0);
+                       !printed_before_.isEmpty() ||
+                       (job_ && (job_->cut_off > 0 || !job_->waits.isEmpty()));
     if (warns) {
         return StatusMood::warning;
     }

@@ -2,24 +2,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTcpSocket>
 #include <gtest/gtest.h>
 
 namespace etiquetas::test {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QString toldBy(const QString& tool, const QStringList& arguments) {
-    QProcess process;
-    process.start(tool, arguments);
-    process.waitForFinished();
-    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
-    return QString::fromLocal8Bit(process.readAllStandardOutput());
-}
-
-} // namespace
 
 PrintServer::PrintServer() {
     for (const char* name : {"spool", "spool/tmp", "cache", "state", "logs", "root"}) {
@@ -29,7 +18,6 @@ PrintServer::PrintServer() {
     QFile::setPermissions(folder_.path(), QFile::permissions(folder_.path()) | QFile::ExeGroup |
                                               QFile::ReadOther | QFile::ExeOther);
     writeSettings();
-    printer_.listen(QHostAddress::LocalHost);
     qputenv("CUPS_SERVER", folder_.filePath(u"socket"_s).toLocal8Bit());
     server_.start(u"/usr/sbin/cupsd"_s, {u"-f"_s, u"-c"_s, folder_.filePath(u"cupsd.conf"_s),
                                          u"-s"_s, folder_.filePath(u"cups-files.conf"_s)});
@@ -55,7 +43,7 @@ void PrintServer::writeSettings() const {
     };
     write(u"cupsd.conf"_s,
           u"Listen %1/socket\nBrowsing Off\nDefaultAuthType None\n"
-          "WebInterface No\nPreserveJobHistory Yes\n"
+          "WebInterface No\nLogLevel info\nPreserveJobHistory Yes\n"
           "<Policy default>\n<Limit All>\nOrder deny,allow\n</Limit>\n</Policy>\n"
           "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"_s.arg(folder_.path()));
     write(u"cups-files.conf"_s,
@@ -65,29 +53,54 @@ void PrintServer::writeSettings() const {
               folder_.path()));
 }
 
-void PrintServer::addQueue(const QString& name, const QString& driver) const {
-    toldBy(u"/usr/sbin/lpadmin"_s,
-           {u"-p"_s, name, u"-E"_s, u"-v"_s,
-            u"socket://127.0.0.1:%1/?waiteof=false"_s.arg(printer_.serverPort()), u"-m"_s,
-            u"drv:///sample.drv/%1.ppd"_s.arg(driver)});
+void PrintServer::addQueue(const QString& name, const QString& driver) {
+    QTcpServer& printer = printers_[name];
+    printer.listen(QHostAddress::LocalHost);
+    tell(u"/usr/sbin/lpadmin"_s,
+         {u"-p"_s, name, u"-E"_s, u"-v"_s,
+          u"socket://127.0.0.1:%1/?waiteof=false"_s.arg(printer.serverPort()),
+          driver.startsWith(u'/') ? u"-P"_s : u"-m"_s, driver, u"-o"_s,
+          u"cupsSNMPSupplies=false"_s});
 }
 
-QByteArray PrintServer::printed() {
+QString PrintServer::tell(const QString& tool, const QStringList& arguments) {
+    QProcess process;
+    process.start(tool, arguments);
+    process.waitForFinished();
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
+    return QString::fromLocal8Bit(process.readAllStandardOutput());
+}
+
+QByteArray PrintServer::printed(const QString& queue) {
     constexpr int patience = 20000; // milliseconds
+    QTcpServer& printer = printers_.at(queue);
     QByteArray program;
-    if (printer_.waitForNewConnection(patience)) {
-        QTcpSocket& job = *printer_.nextPendingConnection();
+    if (printer.hasPendingConnections() || printer.waitForNewConnection(patience)) {
+        QTcpSocket& job = *printer.nextPendingConnection();
         while (job.waitForReadyRead(patience)) {
-            program += job.readAll();
         }
+        program = job.readAll();
     }
-    QFile log(folder_.filePath(u"logs/error"_s));
-    EXPECT_TRUE(!program.isEmpty() || !log.open(QIODevice::ReadOnly)) << log.readAll().constData();
+    EXPECT_FALSE(program.isEmpty()) << log().constData();
     return program;
 }
 
+QStringList PrintServer::filters() const {
+    static const QRegularExpression started(u"Started filter \\S*/(\\w+)"_s);
+    QStringList names;
+    for (const auto& filter : started.globalMatch(QString::fromUtf8(log()))) {
+        names << filter.captured(1);
+    }
+    return names;
+}
+
+QByteArray PrintServer::log() const {
+    QFile file(folder_.filePath(u"logs/error"_s));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 qsizetype PrintServer::jobs(const QString& queue) {
-    return toldBy(u"lpstat"_s, {u"-W"_s, u"all"_s, u"-o"_s, queue}).count(u'\n');
+    return tell(u"lpstat"_s, {u"-W"_s, u"all"_s, u"-o"_s, queue}).count(u'\n');
 }
 
 } // namespace etiquetas::test

@@ -5,10 +5,12 @@
 #include <QTcpServer>
 #include <QTemporaryDir>
 
+#include <map>
+
 namespace etiquetas::test {
 
 /// A print server of the test's own, which this process and the tools that it starts ask as long
-/// as the server lives. Its printers are one.
+/// as the server lives. Each of its queues has a printer.
 class PrintServer {
   public:
     PrintServer();
@@ -18,19 +20,24 @@ class PrintServer {
 
     /// False where the machine lacks the print system, or this user may not start it.
     [[nodiscard]] bool isRunning() const { return is_running_; }
-    /// Adds a queue with one of the sample drivers of the print system.
-    void addQueue(const QString& name, const QString& driver) const;
-    /// What the next job sends to its printer; empty where none comes.
-    [[nodiscard]] QByteArray printed();
+    /// Adds a queue with a driver, called as `lpadmin -m` calls it, or told by the path of its PPD.
+    void addQueue(const QString& name, const QString& driver);
+    /// Runs a tool of the print system, which must not fail, and tells what it tells.
+    static QString tell(const QString& tool, const QStringList& arguments);
+    /// What the next job of a queue sends to its printer; empty where none comes.
+    [[nodiscard]] QByteArray printed(const QString& queue);
+    /// The filters that have been started for all jobs, in their order.
+    [[nodiscard]] QStringList filters() const;
     /// How many jobs a queue has had.
     [[nodiscard]] static qsizetype jobs(const QString& queue);
 
   private:
     void writeSettings() const;
+    [[nodiscard]] QByteArray log() const;
 
     QTemporaryDir folder_{QStringLiteral("/tmp/print-server-XXXXXX")}; // sockets have short paths
     QProcess server_;
-    QTcpServer printer_;
+    std::map<QString, QTcpServer> printers_; // by queue
     bool is_running_ = false;
 };
 

@@ -1,76 +1,37 @@
 #include "desktop/machine/PrintSystem.h"
 
-#include <cups/cups.h>
+#include <QPrinterInfo>
 
-#ifdef Q_OS_UNIX
-#include <filesystem>
-#include <netinet/in.h>
-#include <string_view>
-#include <sys/socket.h>
-#include <sys/un.h>
-#endif
+#include <algorithm>
+#include <array>
 
 namespace etiquetas {
 
-namespace {
-
-#ifdef Q_OS_UNIX
-// Where the print system answers: a socket in the file system, or a port of some machine.
-struct PrintServer {
-    std::string_view name;
-    int port = 0;
-};
-
-template <typename Address>
-const Address& as(const sockaddr_storage& address) {
-    return reinterpret_cast<const Address&>(address);
-}
-
-bool leadsTo(const PrintServer& server, int file) {
-    sockaddr_storage peer{};
-    socklen_t size = sizeof peer;
-    if (getpeername(file, reinterpret_cast<sockaddr*>(&peer), &size) != 0) {
-        return false; // no connection
-    }
-    switch (peer.ss_family) {
-    case AF_UNIX:
-        return server.name == &as<sockaddr_un>(peer).sun_path[0];
-    case AF_INET:
-        return ntohs(as<sockaddr_in>(peer).sin_port) == server.port;
-    case AF_INET6:
-        return ntohs(as<sockaddr_in6>(peer).sin6_port) == server.port;
-    default:
-        return false;
+PrintQueue::PrintQueue(const QPrinterInfo& printer) : own_page_(printer.defaultPageSize()) {
+    if (printer.supportsCustomPageSizes()) {
+        smallest_ = printer.minimumPhysicalPageSize().size(QPageSize::Point);
+        largest_ = printer.maximumPhysicalPageSize().size(QPageSize::Point);
     }
 }
-#endif
 
-} // namespace
-
-// The toolkit hands jobs to CUPS and does not tell of its refusals. CUPS keeps them for each
-// thread.
-QString printSystemError() {
-    if (cupsLastError() < IPP_STATUS_ERROR_BAD_REQUEST) {
-        return {};
-    }
-    const char* const told = cupsLastErrorString();
-    return told != nullptr ? QString::fromLocal8Bit(told) : QString::number(cupsLastError());
+std::optional<QPageSize> PrintQueue::ownPage() const {
+    return own_page_.isValid() ? std::optional(own_page_) : std::nullopt;
 }
 
-#ifdef Q_OS_UNIX
-void breakOffPrintSystem() {
-    const PrintServer server{cupsServer(), ippPort()};
-    std::error_code none;
-    for (const auto& open : std::filesystem::directory_iterator("/dev/fd", none)) {
-        const int file = std::stoi(open.path().filename().string());
-        if (leadsTo(server, file)) {
-            shutdown(file, SHUT_RDWR);
-        }
+QPageSize PrintQueue::bounded(const QPageSize& page) const {
+    if (largest_.isEmpty()) {
+        return page;
     }
+    const QSizeF points = page.size(QPageSize::Point);
+    const QSizeF taken = points.expandedTo(smallest_).boundedTo(largest_);
+    return taken == points ? page
+                           : QPageSize(taken, QPageSize::Point, QString(), QPageSize::ExactMatch);
 }
-#else
-// Where there is no CUPS a job is handed to the system at once.
-void breakOffPrintSystem() {}
-#endif
+
+bool isHeadResolution(int dots) {
+    constexpr std::array of_label_printers{203, 300, 600};
+    return std::find(of_label_printers.begin(), of_label_printers.end(), dots) !=
+           of_label_printers.end();
+}
 
 } // namespace etiquetas

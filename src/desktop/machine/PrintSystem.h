@@ -1,12 +1,100 @@
 #pragma once
 
+#include <QImage>
+#include <QPageSize>
+#include <QSizeF>
 #include <QString>
+
+#include <memory>
+#include <optional>
+
+class QPagedPaintDevice;
+class QPrinterInfo;
 
 namespace etiquetas {
 
-/// Why the last call of this thread to the machine's print system failed; empty where it did not,
-/// and where the machine has none that tells.
-[[nodiscard]] QString printSystemError();
+/// What became of a job that was handed to the machine's print system.
+struct Submission {
+    QString refusal; // why it was not taken; empty where it was
+    int number = 0;  // by which the queue knows the job; 0 where nothing tells it
+    QString waits;   // why the queue prints nothing for now; empty where it does
+};
+
+/// A job whose pages are the dots of a print head.
+class DotJob {
+  public:
+    DotJob() = default;
+    virtual ~DotJob() = default;
+    DotJob(const DotJob&) = delete;
+    DotJob(DotJob&&) = delete;
+    DotJob& operator=(const DotJob&) = delete;
+    DotJob& operator=(DotJob&&) = delete;
+
+    /// Dots to the inch.
+    [[nodiscard]] virtual int resolution() const = 0;
+    /// The page that the queue has without being told another one.
+    [[nodiscard]] virtual QPageSize ownPage() const = 0;
+    /// Adds a page of this size, or the queue's own: one bit to the dot, black where it is 0. What
+    /// stands beyond the head is cut off. False where the driver can't have such a page.
+    [[nodiscard]] virtual bool add(const QImage& dots, const std::optional<QPageSize>& size) = 0;
+    /// Ends the job and hands it over.
+    [[nodiscard]] virtual Submission send() = 0;
+};
+
+/// A job that is drawn, in any resolution.
+class DocumentJob {
+  public:
+    DocumentJob() = default;
+    virtual ~DocumentJob() = default;
+    DocumentJob(const DocumentJob&) = delete;
+    DocumentJob(DocumentJob&&) = delete;
+    DocumentJob& operator=(const DocumentJob&) = delete;
+    DocumentJob& operator=(DocumentJob&&) = delete;
+
+    /// What the pages are drawn on, from their very corner.
+    [[nodiscard]] virtual QPagedPaintDevice& pages() = 0;
+    /// Hands the job over, once it is drawn to its end. Where a job asks for one page, that is
+    /// `page`: the one that holds each of them.
+    [[nodiscard]] virtual Submission send(const QPageSize& page) = 0;
+};
+
+/// A queue of the machine's print system, as a job finds it. Its functions ask the print system,
+/// which may take as long as it likes; any thread may call them, one at a time.
+class PrintQueue {
+  public:
+    virtual ~PrintQueue() = default;
+    PrintQueue(const PrintQueue&) = delete;
+    PrintQueue(PrintQueue&&) = delete;
+    PrintQueue& operator=(const PrintQueue&) = delete;
+    PrintQueue& operator=(PrintQueue&&) = delete;
+
+    /// The page that the queue has without being told another one; nothing where it tells none.
+    [[nodiscard]] std::optional<QPageSize> ownPage() const;
+    /// A page, bounded to the sizes that the driver takes where it takes any between two.
+    [[nodiscard]] QPageSize bounded(const QPageSize& page) const;
+
+    /// Dots to the inch, by which documents are measured.
+    [[nodiscard]] virtual int resolution() const = 0;
+    /// A new job of dots with this title; none where the queue is no label printer's, with a head
+    /// of one colour and a known resolution.
+    [[nodiscard]] virtual std::unique_ptr<DotJob> dotJob(const QString& title) const = 0;
+    /// A new job with this title that is drawn.
+    [[nodiscard]] virtual std::unique_ptr<DocumentJob> documentJob(const QString& title) const = 0;
+
+  protected:
+    explicit PrintQueue(const QPrinterInfo& printer);
+
+  private:
+    QPageSize own_page_;
+    QSizeF smallest_; // points
+    QSizeF largest_;  // empty where the driver tells none, or takes only some sizes
+};
+
+/// The queue of this name; none where the machine has no such one. Asks the print system.
+[[nodiscard]] std::unique_ptr<PrintQueue> findQueue(const QString& name);
+
+/// The resolutions of label printers' heads, 203, 300 and 600 dots to the inch.
+[[nodiscard]] bool isHeadResolution(int dots);
 
 /// Shuts each connection of this program to the machine's print system, whatever thread has it:
 /// what waits for an answer fails, and what has not been sent yet is not sent any more.

@@ -45,17 +45,6 @@ void runInShell(const QString& command_file) {
     shell.startDetached();
 }
 
-// Its arguments go as they are, through no shell; what it prints is dropped.
-void startSilently(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    process.setProgram(program);
-    process.setArguments(arguments);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.startDetached();
-}
-
 std::vector<PortCommand> commandsIn(const QString& command_file) {
     QFile file(command_file);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -90,7 +79,7 @@ void QtCommandStart::start(TextView command_file) {
     }
 }
 
-void QtCommandStart::carryOut(const QString& command_file) const {
+void QtCommandStart::carryOut(const QString& command_file) {
     const QDir folder = QFileInfo(command_file).absoluteDir();
     QMap<QString, QString> shares; // by port
     for (const PortCommand& command : commandsIn(command_file)) {
@@ -105,15 +94,15 @@ void QtCommandStart::carryOut(const QString& command_file) const {
     }
 }
 
-void QtCommandStart::send(const QString& file, const QString& port, const QString& share) const {
+void QtCommandStart::send(const QString& file, const QString& port, const QString& share) {
     if (!share.isEmpty()) {
         // The name after "-d" is one even where it begins with "-".
-        startSilently(print_program_, {u"-d"_s, share, u"-o"_s, u"raw"_s, u"--"_s, file});
+        rows_[share].start(print_program_, {u"-d"_s, share, u"-o"_s, u"raw"_s}, file);
     } else if (const auto number = parallelNumber(port)) {
         // A device that keeps its writer waiting keeps this copy waiting, not the window. One that
         // is missing must not become a file of that name.
         const QString device = devices_ + u"/lp"_s + QString::number(*number - 1);
-        startSilently(u"dd"_s, {u"if="_s + file, u"of="_s + device, u"conv=nocreat"_s});
+        rows_[device].start(u"dd"_s, {u"of="_s + device, u"conv=nocreat"_s}, file);
     }
 }
 

@@ -50,9 +50,12 @@ void JobDelivery::tellRefused(const PrintTarget& target, const Failure& refusal)
 
 void JobDelivery::bring(PrintJob& job, const QString& title, EndedJob& ended) {
     switch (job.target().device) {
-    case Device::printer:
-        job.send();
+    case Device::printer: {
+        const Submission sent = job.send();
+        ended.number = sent.number;
+        ended.waits = sent.waits;
         break;
+    }
     case Device::pdf_file:
         ended.file = writePdfFile(folder_, fileStem(clock_(), title),
                                   [&](const QString& path) { job.write(path); });

@@ -24,6 +24,8 @@ struct EndedJob {
     std::size_t labels = 0;
     std::size_t cut_off = 0; // labels that end in the middle, where a barcode was refused
     QString file;            // that was written; empty where there is none
+    int number = 0;          // that its queue has given it; 0 where none is known
+    QString waits;           // why its queue prints nothing for now; empty where it does
     bool delivered = false;  // to the print system, into the file or into the preview
     bool cancelled = false;  // by the operator
     QString reason;          // why it was not delivered

@@ -1,7 +1,6 @@
 #include "desktop/printing/PrintJob.h"
 
 #include "desktop/machine/Apart.h"
-#include "desktop/machine/DotJob.h"
 #include "desktop/machine/KeptHeap.h"
 #include "desktop/machine/PrintSystem.h"
 #include "desktop/printing/DotPage.h"
@@ -13,7 +12,6 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPrinterInfo>
 
 #include <algorithm>
 #include <atomic>
@@ -39,30 +37,9 @@ QString noAnswer(const QString& printer, PrintJob::Patience patience) {
         .arg(printer);
 }
 
-// Nothing where the machine lacks the printer: it would silently become a PDF printer without a
-// file.
-std::unique_ptr<QPrinter> foundPrinter(const QString& name) {
-    if (QPrinterInfo::printerInfo(name).isNull()) {
-        return nullptr;
-    }
-    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    printer->setOutputFormat(QPrinter::NativeFormat);
-    printer->setPrinterName(name);
-    printer->setDocName(job_name);
-    printer->setFullPage(true);
-    return printer;
-}
-
-PrintQueue foundQueue(const QString& name) {
-    PrintQueue queue{.printer = foundPrinter(name), .head = {}};
-    if (queue.printer != nullptr) {
-        queue.head = PrintHead::ofQueue(name);
-    }
-    return queue;
-}
-
 // None for a built-in device. The print system is asked once for all that a job must know of it.
-PrintQueue lookUpQueue(const PrintTarget& target, JobPulse& pulse, PrintJob::Patience patience) {
+std::unique_ptr<PrintQueue> lookUpQueue(const PrintTarget& target, JobPulse& pulse,
+                                        PrintJob::Patience patience) {
     if (target.device != Device::printer) {
         return {};
     }
@@ -70,18 +47,34 @@ PrintQueue lookUpQueue(const PrintTarget& target, JobPulse& pulse, PrintJob::Pat
         pulse.step({});
         return in_time();
     };
-    auto found = apart([name = target.name] { return foundQueue(name); }, goes_on);
+    auto found = apart([name = target.name] { return findQueue(name); }, goes_on);
     if (!found) {
         throw printFailure(noAnswer(target.name, patience));
     }
-    if (found->printer == nullptr) {
+    if (*found == nullptr) {
         throw printFailure(u"A impressora \"%1\" não está instalada."_s.arg(target.name));
     }
     return std::move(*found);
 }
 
-int resolutionOf(const QPrinter* printer) {
-    return printer == nullptr ? built_in_resolution : printer->resolution();
+int resolutionOf(const PrintQueue* queue) {
+    return queue == nullptr ? built_in_resolution : queue->resolution();
+}
+
+// The size that a page is drawn in.
+using PageSizes = std::function<QPageSize(const LabelPage& page)>;
+
+// The page that holds each of these.
+QPageSize pageOfAll(const LabelPages& pages, const PageSizes& size_of) {
+    QPageSize all = size_of(pages.front());
+    for (const LabelPage& page : pages) {
+        const QSizeF before = all.size(QPageSize::Millimeter);
+        const QSizeF both = before.expandedTo(size_of(page).size(QPageSize::Millimeter));
+        if (both != before) {
+            all = QPageSize(both, QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+        }
+    }
+    return all;
 }
 
 // Orientation stays portrait: a page wider than high is not turned then.
@@ -91,14 +84,14 @@ bool startPage(QPagedPaintDevice& device, const QPageSize& size, QPainter& paint
 }
 
 // Tells before each page how many labels have been drawn. False where the device takes no page.
-bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const QPageSize& own_page,
+bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const PageSizes& size_of,
                const std::function<void(std::size_t labels)>& tell) {
     QPainter painter;
     ShapedTexts texts;
     std::size_t labels = 0;
     for (const LabelPage& page : pages) {
         tell(labels);
-        if (!startPage(device, page.size.value_or(own_page), painter)) {
+        if (!startPage(device, size_of(page), painter)) {
             return false;
         }
         const double dots = device.logicalDpiX() / millimetres_per_inch;
@@ -149,49 +142,40 @@ LabelPages withOwnFonts(LabelPages pages) {
 // Labels that the thread that sends a job has drawn.
 using Drawn = std::atomic<std::size_t>;
 
-bool takesAll(const PrintHead& head, const LabelPages& pages) {
-    const auto last_of_size = [](const LabelPage& one, const LabelPage& next) {
-        return one.size != next.size;
-    };
-    auto page = pages.begin();
-    while (page != pages.end() && head.pageHeader(page->size)) {
-        const auto last = std::adjacent_find(page, pages.end(), last_of_size);
-        page = last == pages.end() ? last : std::next(last);
-    }
-    return page == pages.end();
-}
-
 // A job on its way to the print system, on a thread of its own. It goes there once, as the dots of
-// the print head or else as the toolkit's document, when all pages are drawn: drawing asks nobody.
+// the print head or else as a document, when all pages are drawn: drawing asks nobody.
 struct Outgoing {
-    QString name;
-    PrintQueue queue;
+    std::unique_ptr<PrintQueue> queue;
     LabelPages pages;
     std::shared_ptr<Drawn> drawn;
 
-    // Tells why the print system has not taken the job; empty where it has.
-    [[nodiscard]] QString operator()() const {
-        return queue.head && takesAll(*queue.head, pages) ? sendDots() : sendDocument();
+    [[nodiscard]] Submission operator()() const {
+        const auto dots = queue->dotJob(job_name);
+        return dots != nullptr && draw(*dots) ? dots->send() : sendDocument();
     }
 
   private:
-    [[nodiscard]] QString sendDots() const {
-        DotJob job(*queue.head);
-        DotPages dots(queue.head->resolution());
-        const QPageSize own_page = queue.head->ownPage();
-        for (const LabelPage& page : pages) {
-            if (!job.add(dots.draw(page, own_page), page.size)) {
-                return not_begun;
-            }
+    // Labels keep their places; what lies beyond a page that is bounded is beyond the stock.
+    [[nodiscard]] bool draw(DotJob& job) const {
+        DotPages dots(job.resolution());
+        const QPageSize own_page = job.ownPage();
+        return std::all_of(pages.begin(), pages.end(), [&](const LabelPage& page) {
             *drawn += page.labels;
-        }
-        return job.send(name, job_name);
+            const auto size = page.size ? std::optional(queue->bounded(*page.size)) : std::nullopt;
+            return job.add(dots.draw(page, own_page), size);
+        });
     }
 
-    [[nodiscard]] QString sendDocument() const {
-        const QPageSize own_page = queue.printer->pageLayout().pageSize();
+    [[nodiscard]] Submission sendDocument() const {
+        const auto job = queue->documentJob(job_name);
+        const QPageSize own_page = queue->ownPage().value_or(builtInPage());
+        const auto size_of = [&](const LabelPage& page) {
+            return page.size ? queue->bounded(*page.size) : own_page;
+        };
         const auto tell = [this](std::size_t labels) { *drawn = labels; };
-        return drawPages(*queue.printer, pages, own_page, tell) ? printSystemError() : not_begun;
+        return drawPages(job->pages(), pages, size_of, tell)
+                   ? job->send(pageOfAll(pages, size_of))
+                   : Submission{.refusal = not_begun, .waits = {}};
     }
 };
 
@@ -229,7 +213,7 @@ class Stall {
 } // namespace
 
 int resolutionOf(const PrintTarget& target, JobPulse& pulse) {
-    return resolutionOf(lookUpQueue(target, pulse, print_system_patience).printer.get());
+    return resolutionOf(lookUpQueue(target, pulse, print_system_patience).get());
 }
 
 PrintJob::PrintJob(const PrintTarget& target, JobPulse& pulse, LabelPages pages, Patience patience)
@@ -237,7 +221,7 @@ PrintJob::PrintJob(const PrintTarget& target, JobPulse& pulse, LabelPages pages,
       queue_(lookUpQueue(target, pulse, patience)), pages_(std::move(pages)) {}
 
 int PrintJob::resolution() const {
-    return resolutionOf(queue_.printer.get());
+    return resolutionOf(queue_.get());
 }
 
 LabelPage& PrintJob::page(const std::optional<QPageSize>& size) {
@@ -264,7 +248,7 @@ void PrintJob::endPage(std::size_t labels) {
     }
 }
 
-void PrintJob::send() {
+Submission PrintJob::send() {
     const auto drawn = std::make_shared<Drawn>(0);
     const std::size_t in_all = labelsOn(pages_);
     Stall stall(patience_, pages_.size());
@@ -273,17 +257,18 @@ void PrintJob::send() {
         pulse_->step({.labels = labels, .in_all = in_all, .can_cancel = false});
         return stall(labels);
     };
-    const auto refusal = apart(
-        Outgoing{target_.name, std::move(queue_), withOwnFonts(std::move(pages_)), drawn}, goes_on);
-    // The print system tells of no error where it was broken off with the pages on their way.
-    if (stall.isBrokenOff()) {
+    const auto told =
+        apart(Outgoing{std::move(queue_), withOwnFonts(std::move(pages_)), drawn}, goes_on);
+    // A job that was broken off with its pages on their way may have been taken, without an answer.
+    if (!told || (stall.isBrokenOff() && told->number == 0)) {
         throw printFailure(noAnswer(target_.name, patience_) +
                            u" As etiquetas ainda podem sair: confira antes de imprimir de novo."_s);
     }
-    if (!refusal->isEmpty()) {
+    if (!told->refusal.isEmpty()) {
         throw printFailure(
-            u"A impressora \"%1\" não aceitou o trabalho: %2."_s.arg(target_.name, *refusal));
+            u"A impressora \"%1\" não aceitou o trabalho: %2."_s.arg(target_.name, told->refusal));
     }
+    return *told;
 }
 
 void PrintJob::write(const QString& path) {
@@ -296,7 +281,8 @@ void PrintJob::write(const QString& path) {
     const auto tell = [this, in_all](std::size_t labels) {
         pulse_->step({.labels = labels, .in_all = in_all});
     };
-    if (!drawPages(writer, pages_, builtInPage(), tell)) {
+    const auto size_of = [](const LabelPage& page) { return page.size.value_or(builtInPage()); };
+    if (!drawPages(writer, pages_, size_of, tell)) {
         throw printFailure(u"O arquivo \"%1\" não pôde ser gravado."_s.arg(path));
     }
 }

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "desktop/machine/Apart.h"
-#include "desktop/machine/PrintHead.h"
+#include "desktop/machine/PrintSystem.h"
 #include "desktop/machine/QtPrinters.h"
 #include "desktop/printing/LabelPage.h"
 
 #include <QPageSize>
-#include <QPrinter>
 #include <QString>
 
 #include <chrono>
@@ -17,12 +16,6 @@
 namespace etiquetas {
 
 class JobPulse;
-
-/// A queue of the print system, as a job finds it.
-struct PrintQueue {
-    std::unique_ptr<QPrinter> printer;
-    std::optional<PrintHead> head; // where it is a label printer's
-};
 
 /// Dots to the inch of a printer; fails where the machine does not have it, or its print system
 /// does not answer in time. The windows live meanwhile.
@@ -53,9 +46,10 @@ class PrintJob {
 
     // Each of these is done once, and takes the pages.
 
-    /// Sends the job to its printer; fails where the print system does not take it, or not in time.
-    /// What was given up is broken off, so that it is not sent later.
-    void send();
+    /// Sends the job to its printer and tells what the print system has made of it; fails where the
+    /// print system does not take it, or not in time. What was given up is broken off, so that it
+    /// is not sent later.
+    Submission send();
     /// Writes the job into this file, as PDF; fails where that is not possible.
     void write(const QString& path);
 
@@ -63,7 +57,7 @@ class PrintJob {
     PrintTarget target_;
     JobPulse* pulse_;
     Patience patience_;
-    PrintQueue queue_; // none for the built-in devices
+    std::unique_ptr<PrintQueue> queue_; // none for the built-in devices
     LabelPages pages_;
     bool page_ended_ = true;
 };

@@ -51,7 +51,13 @@ QString targetOf(const EndedJob& job) {
 }
 
 QString resultOf(const EndedJob& job) {
-    return job.delivered ? u"entregue"_s : u"não entregue: %1"_s.arg(job.reason);
+    if (!job.delivered) {
+        return u"não entregue: %1"_s.arg(job.reason);
+    }
+    const QString number = job.number == 0 ? QString() : u" (trabalho %1)"_s.arg(job.number);
+    const QString waits =
+        job.waits.isEmpty() ? QString() : u", a fila está parada: %1"_s.arg(job.waits);
+    return u"entregue"_s + number + waits;
 }
 
 } // namespace

@@ -22,12 +22,12 @@ class QtCommandStartTest : public testing::Test {
     void write(const QString& name, const std::string& bytes) {
         files.replace(toText(place(name)), bytes);
     }
-    // A print program that keeps its arguments, one a line, in "lp-arguments", and the file that
-    // the last of them names in "lp-job".
+    // A print program that keeps its arguments, one a line, in "lp-arguments", and its job in
+    // "lp-job".
     void writePrintProgram() {
         write(u"lp"_s, "#!/bin/sh\n"
                        "for file; do echo \"$file\"; done > \"$0-arguments\"\n"
-                       "cat \"$file\" > \"$0-draft\" && mv \"$0-draft\" \"$0-job\"\n");
+                       "cat > \"$0-draft\" && mv \"$0-draft\" \"$0-job\"\n");
         QFile::setPermissions(place(u"lp"_s), QFile::ReadOwner | QFile::ExeOwner);
     }
     void start(const std::string& command_file) {
@@ -44,8 +44,7 @@ class QtCommandStartTest : public testing::Test {
     }
     void expectPrinted(const std::string& bytes, const std::string& share) const {
         EXPECT_EQ(awaited(u"lp-job"_s), bytes);
-        EXPECT_EQ(awaited(u"lp-arguments"_s), "-d\n" + share + "\n-o\nraw\n--\n" +
-                                                  place(u"epltemp.prn"_s).toStdString() + "\n");
+        EXPECT_EQ(awaited(u"lp-arguments"_s), "-d\n" + share + "\n-o\nraw\n");
     }
 
     const std::string program{"\2n\r\n\0\xE7\r\n", 8};
@@ -60,6 +59,19 @@ TEST_F(QtCommandStartTest, PrintsOnTheQueueOfTheShareAsItIsNamed) {
           "NET USE Lpt1: \\\\127.0.0.1\\-o $(touch a); \xE9\"' /yes\r\n"
           "type epltemp.prn > lpt1\n\r\n");
     expectPrinted(program, "-o $(touch a); \u00E9\"'");
+}
+
+TEST_F(QtCommandStartTest, PrintsEachProgramOnceInTheOrderOfTheirSending) {
+    write(u"lp"_s, "#!/bin/sh\nsleep 0.05\nread pause\nsleep $pause\n"
+                   "echo $pause >> \"$0-draft\"\n"
+                   "[ $pause != 0 ] || mv \"$0-draft\" \"$0-job\"\n");
+    QFile::setPermissions(place(u"lp"_s), QFile::ReadOwner | QFile::ExeOwner);
+    write(u"IMPRIMIR.BAT"_s, "net use LPT1: \\\\127.0.0.1\\Z /yes\r\ntype epltemp.prn > lpt1\r\n");
+    for (const char* pause : {"0.2", "0.1", "0"}) {
+        write(u"epltemp.prn"_s, std::string(pause) + "\n");
+        commands.start(toText(place(u"IMPRIMIR.BAT"_s)));
+    }
+    EXPECT_EQ(awaited(u"lp-job"_s), "0.2\n0.1\n0\n");
 }
 
 TEST_F(QtCommandStartTest, WritesToTheParallelDeviceWhereThePortHasNoShare) {

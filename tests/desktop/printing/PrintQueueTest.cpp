@@ -1,5 +1,4 @@
 #include "barcodes/EAN13and8.h"
-#include "desktop/machine/PrintHead.h"
 #include "desktop/machine/QtPictures.h"
 #include "desktop/printing/DotPage.h"
 #include "desktop/printing/JobPulse.h"
@@ -7,6 +6,7 @@
 #include "desktop/printing/PictureMarks.h"
 #include "desktop/printing/PrintJob.h"
 #include "support/Cases.h"
+#include "tests/desktop/LabelPrograms.h"
 #include "tests/desktop/PrintServer.h"
 
 #include <gtest/gtest.h>
@@ -14,102 +14,6 @@
 namespace etiquetas::test {
 
 using namespace Qt::StringLiterals;
-
-/// Takes a program of a printer to pieces.
-class Program {
-  public:
-    explicit Program(const QByteArray& text) : text_(text) {}
-
-    /// Goes behind the next such word; false where there is none.
-    bool find(const char* word) {
-        const auto place = text_.indexOf(word, at_);
-        at_ = place < 0 ? text_.size() : place + static_cast<qsizetype>(qstrlen(word));
-        return place >= 0;
-    }
-    int number() {
-        int value = 0;
-        while (at_ < text_.size() && std::isdigit(text_[at_]) != 0) {
-            value = value * 10 + text_[at_++] - '0';
-        }
-        ++at_; // what ends it
-        return value;
-    }
-    [[nodiscard]] char next() { return text_[at_++]; }
-
-  private:
-    QByteArray text_;
-    qsizetype at_ = 0;
-};
-
-static QImage paper(int width, int height) {
-    QImage dots(width, height, QImage::Format_Mono);
-    dots.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
-    dots.fill(1);
-    return dots;
-}
-
-// EPL2: rows of bytes, a bit being paper, each with its place; blank ones are left out.
-static QImage eplDots(Program program, const QSize& size) {
-    QImage dots = paper(size.width(), size.height());
-    while (program.find("\nGW0,")) {
-        uchar* const row = dots.scanLine(program.number());
-        const int bytes = program.number();
-        program.number();
-        for (int i = 0; i < bytes; ++i) {
-            row[i] = static_cast<uchar>(program.next());
-        }
-    }
-    return dots;
-}
-
-// CPCL: the same, a bit being ink.
-static QImage cpclDots(Program program, const QSize& size) {
-    QImage dots = paper(size.width(), size.height());
-    while (program.find("\nCG ")) {
-        const int bytes = program.number();
-        program.number();
-        program.number();
-        uchar* const row = dots.scanLine(program.number());
-        for (int i = 0; i < bytes; ++i) {
-            row[i] = static_cast<uchar>(~program.next());
-        }
-    }
-    return dots;
-}
-
-// ZPL: rows of hexadecimal digits, a bit being ink. A letter repeats the digit after it, a comma
-// ends a row in paper, a colon repeats the row before.
-static QImage zplDots(Program program, const QSize& size) {
-    QImage dots = paper(size.width(), size.height());
-    EXPECT_TRUE(program.find("~DGR:CUPS.GRF,"));
-    program.number();
-    const int digits = program.number() * 2;
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0, count = 0; x < digits;) {
-            const char each = program.next();
-            if (each == ':') {
-                memcpy(dots.scanLine(y), dots.constScanLine(y - 1),
-                       static_cast<std::size_t>(dots.bytesPerLine()));
-                break;
-            }
-            if (each == ',') {
-                break;
-            }
-            if (each >= 'G' && each <= 'Y') {
-                count += each - 'F';
-            } else if (each >= 'g' && each <= 'z') {
-                count += (each - 'f') * 20;
-            } else if (std::isxdigit(each) != 0) {
-                const int ink = QByteArray(1, each).toInt(nullptr, 16);
-                for (const int end = x + std::max(1, count); x < end; ++x) {
-                    dots.scanLine(y)[x / 2] &= static_cast<uchar>(~(ink << (x % 2 == 0 ? 4 : 0)));
-                }
-                count = 0;
-            }
-        }
-    }
-    return dots;
-}
 
 static LabelPage samplePage() {
     QtPictures pictures;
@@ -129,7 +33,7 @@ static LabelPage samplePage() {
 struct LabelPrinter {
     const char* name;
     QString driver;
-    QImage (*dots)(Program program, const QSize& size);
+    QImage (*dots)(const QByteArray& program, const QSize& size);
     int width = 0; // dots of its head, or of the page
 };
 
@@ -140,15 +44,15 @@ TEST_P(LabelPrinterTest, getsTheVeryDotsOnce) {
     if (!server.isRunning()) {
         GTEST_SKIP() << "no print server can be started here";
     }
-    server.addQueue(u"Etiquetas"_s, GetParam().driver);
+    server.addQueue(u"Etiquetas"_s, u"drv:///sample.drv/%1.ppd"_s.arg(GetParam().driver));
     const LabelPage page = samplePage();
     JobPulse pulse;
     PrintJob({.name = u"Etiquetas"_s}, pulse, {page, page}).send();
-    const QByteArray program = server.printed();
+    const QByteArray program = server.printed(u"Etiquetas"_s);
     EXPECT_EQ(PrintServer::jobs(u"Etiquetas"_s), 1);
     const QImage drawn = DotPages(203).draw(page, builtInPage());
     const QImage expected = drawn.copy(0, 0, GetParam().width, drawn.height());
-    const QImage got = GetParam().dots(Program(program), expected.size());
+    const QImage got = GetParam().dots(program, expected.size());
     EXPECT_EQ(got, expected);
 }
 

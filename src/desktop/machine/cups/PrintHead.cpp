@@ -1,4 +1,6 @@
-#include "desktop/machine/PrintHead.h"
+#include "desktop/machine/cups/PrintHead.h"
+
+#include "desktop/machine/PrintSystem.h"
 
 #include <QFile>
 #include <QSizeF>
@@ -39,12 +41,6 @@ bool takesRaster(const Driver& driver) {
     });
 }
 
-bool isKnownResolution(unsigned resolution) {
-    constexpr std::array<unsigned, 3> of_label_printers{203, 300, 600};
-    return std::find(of_label_printers.begin(), of_label_printers.end(), resolution) !=
-           of_label_printers.end();
-}
-
 // One bit a dot, from the page's top-left corner on.
 bool isPageOfDots(const cups_page_header2_t& header) {
     const bool black_or_white =
@@ -53,7 +49,7 @@ bool isPageOfDots(const cups_page_header2_t& header) {
         header.cupsImagingBBox[0] == 0 && header.cupsImagingBBox[3] == header.cupsPageSize[1];
     return black_or_white && from_corner && header.cupsBitsPerPixel == 1 &&
            header.cupsNumColors == 1 && header.HWResolution[0] == header.HWResolution[1] &&
-           isKnownResolution(header.HWResolution[0]);
+           isHeadResolution(static_cast<int>(header.HWResolution[0]));
 }
 
 // What the print system's own filters do before they draw pages.

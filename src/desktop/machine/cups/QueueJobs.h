@@ -1,0 +1,85 @@
+#pragma once
+
+#include "desktop/machine/PrintSystem.h"
+#include "desktop/machine/cups/PrintHead.h"
+
+#include <QBuffer>
+#include <QByteArray>
+#include <QImage>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QString>
+
+#include <cups/cups.h>
+#include <cups/raster.h>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace etiquetas {
+
+/// Hands a whole document to a queue as one job. One that is not taken to its end is taken back.
+class QueueDocument {
+  public:
+    QueueDocument(const QString& queue, const QString& title)
+        : queue_(queue.toLocal8Bit()), title_(title.toUtf8()) {}
+
+    /// What the job holds.
+    [[nodiscard]] QByteArray& bytes() { return bytes_; }
+    /// The page that the whole job asks for, as the print system calls it; that of a driver who
+    /// reads it in the job itself needs none.
+    void takePage(const QString& name) { page_ = name.toLatin1(); }
+
+    /// Sends what the job holds, which is of this type.
+    [[nodiscard]] Submission send(const char* format) const;
+
+  private:
+    [[nodiscard]] int createdJob() const;
+    [[nodiscard]] bool hasTaken(int job, const char* format) const;
+
+    QByteArray queue_;
+    QByteArray title_;
+    QByteArray bytes_;
+    QByteArray page_;
+};
+
+/// A job that is written as the driver of a print head reads it (the print system's raster), so
+/// that no filter has anything left to decide.
+class RasterJob final : public DotJob {
+  public:
+    RasterJob(QueueDocument document, PrintHead head);
+
+    [[nodiscard]] int resolution() const override { return head_.resolution(); }
+    [[nodiscard]] QPageSize ownPage() const override { return head_.ownPage(); }
+    [[nodiscard]] bool add(const QImage& dots, const std::optional<QPageSize>& size) override;
+    [[nodiscard]] Submission send() override;
+
+  private:
+    struct CloseRaster {
+        void operator()(cups_raster_t* raster) const;
+    };
+
+    void describe(const std::optional<QPageSize>& size);
+
+    PrintHead head_;
+    std::optional<cups_page_header2_t> header_; // of pages of this size
+    std::optional<QPageSize> size_;
+    QueueDocument document_;
+    std::unique_ptr<cups_raster_t, CloseRaster> raster_; // closed before the document
+};
+
+/// A job that is written as PDF, which all queues take.
+class PdfJob final : public DocumentJob {
+  public:
+    PdfJob(QueueDocument document, int resolution);
+
+    [[nodiscard]] QPagedPaintDevice& pages() override { return writer_; }
+    [[nodiscard]] Submission send(const QPageSize& page) override;
+
+  private:
+    QueueDocument document_;
+    QBuffer buffer_;
+    QPdfWriter writer_;
+};
+
+} // namespace etiquetas

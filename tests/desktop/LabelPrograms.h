@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+
+namespace etiquetas::test {
+
+// The graphics of one page in programs of label printers, on a sheet of this size in dots.
+
+[[nodiscard]] QImage epl1Dots(const QByteArray& text, const QSize& size);
+[[nodiscard]] QImage eplDots(const QByteArray& text, const QSize& size);
+[[nodiscard]] QImage cpclDots(const QByteArray& text, const QSize& size);
+[[nodiscard]] QImage zplDots(const QByteArray& text, const QSize& size);
+
+} // namespace etiquetas::test
