@@ -256,34 +256,37 @@ double decodabilityOf(const QImage& paper, const Symbol& symbol, double dots) {
     return eanDecodability(paper, bars).value_or(0);
 }
 
-void reportDecodability(const char* what, const std::vector<QImage>& pages,
-                        const std::vector<Symbol>& symbols, const Print& print, double dots) {
-    std::vector<double> found;
-    for (const Symbol& symbol : symbols) {
-        found.push_back(decodabilityOf(paperOf(pages, symbol, print, dots), symbol, dots));
-    }
+void tellDecodability(const char* what, std::vector<double> found) {
     std::sort(found.begin(), found.end());
-    std::printf("  %s least %.2f median %.2f", what, found.front(), found[found.size() / 2]);
+    if (!found.empty()) {
+        std::printf("  %s least %.2f median %.2f", what, found.front(), found[found.size() / 2]);
+    }
 }
 
 void report(const Kind& kind, const Printed& labels, const Print& print, int resolution) {
     const double dots = resolution / millimetres_per_inch;
+    const bool is_graded = !kind.code39 && print.growth == 0;
     int zbar = 0;
     int zxing = 0;
+    std::vector<double> decodability;
+    std::vector<double> without_texts;
     for (const Symbol& symbol : labels.symbols) {
         const QImage paper = paperOf(labels.pages, symbol, print, dots);
         zbar += zbarReads(paper, symbol.text) ? 1 : 0;
         zxing += zxingReads(paper, symbol.text) ? 1 : 0;
+        if (is_graded) {
+            decodability.push_back(decodabilityOf(paper, symbol, dots));
+        }
+        if (is_graded && !labels.bars.empty()) {
+            const QImage bars = paperOf(labels.bars, symbol, print, dots);
+            without_texts.push_back(decodabilityOf(bars, symbol, dots));
+        }
     }
     const double all = static_cast<double>(labels.symbols.size()) / 100;
     std::printf("%-11s %-18s zbar %6.2f %%  ZXing %6.2f %%", kind.name, print.name, zbar / all,
                 zxing / all);
-    if (!kind.code39 && print.growth == 0) {
-        reportDecodability("decodability", labels.pages, labels.symbols, print, dots);
-    }
-    if (!kind.code39 && print.growth == 0 && !labels.bars.empty()) {
-        reportDecodability("without texts", labels.bars, labels.symbols, print, dots);
-    }
+    tellDecodability("decodability", std::move(decodability));
+    tellDecodability("without texts", std::move(without_texts));
     std::printf("\n");
     std::fflush(stdout);
 }

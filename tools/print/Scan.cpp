@@ -19,11 +19,14 @@ namespace {
 constexpr int pixels_to_dot = 4;
 
 QImage turned(const QImage& grey) {
-    QImage result(grey.height(), grey.width(), QImage::Format_Grayscale8);
+    const int width = grey.width();
+    QImage result(grey.height(), width, QImage::Format_Grayscale8);
+    uchar* const first = result.bits();
+    const qsizetype line = result.bytesPerLine();
     for (int y = 0; y < grey.height(); ++y) {
         const uchar* const row = grey.constScanLine(y);
-        for (int x = 0; x < grey.width(); ++x) {
-            result.scanLine(x)[y] = row[x];
+        for (int x = 0; x < width; ++x) {
+            first[x * line + y] = row[x];
         }
     }
     return result;
@@ -32,12 +35,13 @@ QImage turned(const QImage& grey) {
 QImage movedRows(const QImage& grey, int pixels) {
     QImage result = grey;
     const int reach = std::abs(pixels);
+    const int width = grey.width();
     for (int y = 0; y < grey.height(); ++y) {
         const uchar* const row = grey.constScanLine(y);
         uchar* const moved = result.scanLine(y);
-        for (int x = 0; x < grey.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             const auto [darkest, lightest] = std::minmax_element(
-                row + std::max(0, x - reach), row + std::min(grey.width(), x + reach + 1));
+                row + std::max(0, x - reach), row + std::min(width, x + reach + 1));
             moved[x] = pixels > 0 ? *darkest : *lightest;
         }
     }
@@ -61,20 +65,26 @@ std::vector<float> bell(double deviation) {
     return weights;
 }
 
+// Weight by weight, which compilers make vectors of.
 QImage blurredRows(const QImage& grey, const std::vector<float>& weights) {
+    const auto width = static_cast<std::size_t>(grey.width());
+    const std::size_t reach = weights.size() / 2;
     QImage result = grey;
-    const int reach = static_cast<int>(weights.size() / 2);
+    std::vector<float> padded(width + 2 * reach);
+    std::vector<float> tones(width);
     for (int y = 0; y < grey.height(); ++y) {
         const uchar* const row = grey.constScanLine(y);
-        uchar* const blurred = result.scanLine(y);
-        for (int x = 0; x < grey.width(); ++x) {
-            float tone = 0;
-            for (int i = -reach; i <= reach; ++i) {
-                tone += weights[static_cast<std::size_t>(i + reach)] *
-                        static_cast<float>(row[std::clamp(x + i, 0, grey.width() - 1)]);
+        std::fill_n(padded.begin(), reach, row[0]);
+        std::copy_n(row, width, padded.data() + reach);
+        std::fill_n(padded.data() + reach + width, reach, row[width - 1]);
+        std::fill(tones.begin(), tones.end(), 0.5F); // rounds
+        for (std::size_t i = 0; i < weights.size(); ++i) {
+            for (std::size_t x = 0; x < width; ++x) {
+                tones[x] += weights[i] * padded[x + i];
             }
-            blurred[x] = static_cast<uchar>(std::lround(tone));
         }
+        std::transform(tones.begin(), tones.end(), result.scanLine(y),
+                       [](float tone) { return static_cast<uchar>(tone); });
     }
     return result;
 }
