@@ -139,6 +139,11 @@ LabelPages withOwnFonts(LabelPages pages) {
     return pages;
 }
 
+// Whether two pages, one behind the other, are those of one label that is printed many times.
+bool areAlike(const LabelPage& page, const LabelPage& before) {
+    return page.marks.isSharedWith(before.marks) && page.size == before.size;
+}
+
 // Labels that the thread that sends a job has drawn.
 using Drawn = std::atomic<std::size_t>;
 
@@ -159,10 +164,16 @@ struct Outgoing {
     [[nodiscard]] bool draw(DotJob& job) const {
         DotPages dots(job.resolution());
         const QPageSize own_page = job.ownPage();
+        const LabelPage* before = nullptr;
+        QImage image;
         return std::all_of(pages.begin(), pages.end(), [&](const LabelPage& page) {
             *drawn += page.labels;
+            if (before == nullptr || !areAlike(page, *before)) {
+                image = dots.draw(page, own_page);
+            }
+            before = &page;
             const auto size = page.size ? std::optional(queue->bounded(*page.size)) : std::nullopt;
-            return job.add(dots.draw(page, own_page), size);
+            return job.add(image, size);
         });
     }
 
