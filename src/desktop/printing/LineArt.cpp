@@ -160,7 +160,9 @@ QImage cutAtHalf(const QImage& grey, const QSize& size) {
         const uchar* const tones = scaled.constScanLine(y);
         uchar* const row = cut.scanLine(y);
         for (int x = 0; x < size.width(); ++x) {
-            row[x / bits] |= tones[x] < half ? 0 : 1 << (bits - 1 - x % bits);
+            if (tones[x] >= half) {
+                row[x / bits] |= static_cast<uchar>(1 << (bits - 1 - x % bits));
+            }
         }
     }
     return cut;

@@ -276,15 +276,15 @@ std::vector<int> modulesInDots(const QImage& symbol, double left, double right, 
 
 std::optional<QRectF> placeInWholeDots(const QRectF& place, int modules) {
     constexpr double dot = millimetres_per_inch / 203;
-    constexpr double most_moved = 0.1; // millimetres
+    constexpr double most_moved_in_file = 0.1; // millimetres
     // Edges stand a little within their dots: what a renderer rounds then never reaches the next.
     constexpr double inset = 0.25; // dots
     const double dots = modules * std::max(1.0, std::round(place.width() / modules / dot));
     const double start = std::round(place.center().x() / dot - dots / 2);
     const double left = (start + inset) * dot;
     const double right = (start + dots - inset) * dot;
-    if (std::abs(left - place.left()) > most_moved ||
-        std::abs(right - place.right()) > most_moved) {
+    if (std::abs(left - place.left()) > most_moved_in_file ||
+        std::abs(right - place.right()) > most_moved_in_file) {
         return std::nullopt;
     }
     return QRectF(left, place.top(), right - left, place.height());
