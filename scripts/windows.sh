@@ -235,7 +235,9 @@ test_command_line() {
 
 print_under_wine() {
     export WINEPREFIX=$project/$build/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
-    local linux=$project/$build/demo-linux windows=$project/$build/demo
+    XDG_RUNTIME_DIR=$(mktemp -d) # or the programs of Linux tell that they have none
+    export XDG_RUNTIME_DIR
+    local linux=$project/$build/printed-linux windows=$project/$build/printed
     scripts/prepare.sh run run
     echo "== Printing under Wine"
     rm -rf "$linux" "$windows"

@@ -7,8 +7,9 @@
 
 namespace etiquetas {
 
-PrintQueue::PrintQueue(const QPrinterInfo& printer) : own_page_(printer.defaultPageSize()) {
-    if (printer.supportsCustomPageSizes()) {
+PrintQueue::PrintQueue(const QPrinterInfo& printer)
+    : own_page_(printer.defaultPageSize()), takes_any_size_(printer.supportsCustomPageSizes()) {
+    if (takes_any_size_) {
         smallest_ = printer.minimumPhysicalPageSize().size(QPageSize::Point);
         largest_ = printer.maximumPhysicalPageSize().size(QPageSize::Point);
     }
@@ -26,6 +27,10 @@ QPageSize PrintQueue::bounded(const QPageSize& page) const {
     const QSizeF taken = points.expandedTo(smallest_).boundedTo(largest_);
     return taken == points ? page
                            : QPageSize(taken, QPageSize::Point, QString(), QPageSize::ExactMatch);
+}
+
+std::optional<QPageSize> PrintQueue::sheetFor(const QPageSize& page) const {
+    return takes_any_size_ ? std::optional(page) : ownPage();
 }
 
 bool isHeadResolution(int dots) {

@@ -53,9 +53,9 @@ class DocumentJob {
 
     /// What the pages are drawn on, from their very corner.
     [[nodiscard]] virtual QPagedPaintDevice& pages() = 0;
-    /// Hands the job over, once it is drawn to its end. Where a job asks for one page, that is
-    /// `page`: the one that holds each of them.
-    [[nodiscard]] virtual Submission send(const QPageSize& page) = 0;
+    /// Hands the job over, once it is drawn to its end. Where a job asks for one sheet, it is this;
+    /// without one it is the queue's own.
+    [[nodiscard]] virtual Submission send(const std::optional<QPageSize>& sheet) = 0;
 };
 
 /// A queue of the machine's print system, as a job finds it. Its functions ask the print system,
@@ -72,6 +72,10 @@ class PrintQueue {
     [[nodiscard]] std::optional<QPageSize> ownPage() const;
     /// A page, bounded to the sizes that the driver takes where it takes any between two.
     [[nodiscard]] QPageSize bounded(const QPageSize& page) const;
+    /// The sheet that a page is printed on: of its size where the driver takes any between two,
+    /// else the queue's own, which need not be told. A printer that knows some sizes alone cancels
+    /// jobs of any other.
+    [[nodiscard]] std::optional<QPageSize> sheetFor(const QPageSize& page) const;
 
     /// Dots to the inch, by which documents are measured.
     [[nodiscard]] virtual int resolution() const = 0;
@@ -86,8 +90,9 @@ class PrintQueue {
 
   private:
     QPageSize own_page_;
-    QSizeF smallest_; // points
-    QSizeF largest_;  // empty where the driver tells none, or takes only some sizes
+    bool takes_any_size_; // between two
+    QSizeF smallest_;     // points; some drivers tell no bounds
+    QSizeF largest_;
 };
 
 /// The queue of this name; none where the machine has no such one. Asks the print system.

@@ -185,7 +185,7 @@ struct Outgoing {
         };
         const auto tell = [this](std::size_t labels) { *drawn = labels; };
         return drawPages(job->pages(), pages, size_of, tell)
-                   ? job->send(pageOfAll(pages, size_of))
+                   ? job->send(queue->sheetFor(pageOfAll(pages, size_of)))
                    : Submission{.refusal = not_begun, .waits = {}};
     }
 };

@@ -79,8 +79,8 @@ int QueueDocument::createdJob() const {
     JobOptions options{{"sides", "one-sided"},    {"number-up", "1"},
                        {"print-scaling", "none"}, {"nopdfAutoRotate", "true"},
                        {"position", "top-left"},  {"job-sheets", "none,none"}};
-    if (!page_.isEmpty()) {
-        options.add({"media", page_.constData()});
+    if (!sheet_.isEmpty()) {
+        options.add({"media", sheet_.constData()});
     }
     return cupsCreateJob(CUPS_HTTP_DEFAULT, queue_.constData(), title_.constData(), options.count(),
                          options.list());
@@ -149,8 +149,10 @@ PdfJob::PdfJob(QueueDocument document, int resolution)
     writer_.setPageMargins(QMarginsF());
 }
 
-Submission PdfJob::send(const QPageSize& page) {
-    document_.takePage(page.key());
+Submission PdfJob::send(const std::optional<QPageSize>& sheet) {
+    if (sheet) {
+        document_.takeSheet(sheet->key());
+    }
     return document_.send(CUPS_FORMAT_PDF);
 }
 

@@ -26,9 +26,9 @@ class QueueDocument {
 
     /// What the job holds.
     [[nodiscard]] QByteArray& bytes() { return bytes_; }
-    /// The page that the whole job asks for, as the print system calls it; that of a driver who
+    /// The sheet that the whole job asks for, as the print system calls it; a driver that
     /// reads it in the job itself needs none.
-    void takePage(const QString& name) { page_ = name.toLatin1(); }
+    void takeSheet(const QString& name) { sheet_ = name.toLatin1(); }
 
     /// Sends what the job holds, which is of this type.
     [[nodiscard]] Submission send(const char* format) const;
@@ -40,7 +40,7 @@ class QueueDocument {
     QByteArray queue_;
     QByteArray title_;
     QByteArray bytes_;
-    QByteArray page_;
+    QByteArray sheet_;
 };
 
 /// A job that is written as the driver of a print head reads it (the print system's raster), so
@@ -74,7 +74,7 @@ class PdfJob final : public DocumentJob {
     PdfJob(QueueDocument document, int resolution);
 
     [[nodiscard]] QPagedPaintDevice& pages() override { return writer_; }
-    [[nodiscard]] Submission send(const QPageSize& page) override;
+    [[nodiscard]] Submission send(const std::optional<QPageSize>& sheet) override;
 
   private:
     QueueDocument document_;

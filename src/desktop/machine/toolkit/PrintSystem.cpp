@@ -26,7 +26,7 @@ class DrawnJob final : public DocumentJob {
     explicit DrawnJob(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer)) {}
 
     [[nodiscard]] QPagedPaintDevice& pages() override { return *printer_; }
-    [[nodiscard]] Submission send(const QPageSize& /*page*/) override { return {}; }
+    [[nodiscard]] Submission send(const std::optional<QPageSize>& /*sheet*/) override { return {}; }
 
   private:
     std::unique_ptr<QPrinter> printer_;
