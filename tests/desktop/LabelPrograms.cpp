@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstring>
+#include <utility>
 
 namespace etiquetas::test {
 
@@ -13,7 +14,7 @@ namespace {
 // Takes a program of a printer to pieces.
 class Program {
   public:
-    explicit Program(const QByteArray& text) : text_(text) {}
+    explicit Program(QByteArray text) : text_(std::move(text)) {}
 
     // Goes behind the next such word; false where there is none.
     bool find(const char* word) {
