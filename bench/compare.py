@@ -320,9 +320,11 @@ def listings_a_load(program, enter, work):
         return 0
     # The last one is that of the bench itself, which takes the folder away.
     told = trace.read_text(errors="replace")
-    reads = [found.start() for found in re.finditer(r' FRENTE.TXT", O_RDONLY', told)]
-    listings = re.findall(r'/pedidos/?", [^)]*O_DIRECTORY', told[:reads[-1]])
-    return len(listings) / len(reads)
+    opened = re.findall(r' FRENTE.TXT", O_RDONLY|/pedidos/?", [^)]*O_DIRECTORY', told)
+    steps = "".join("r" if "FRENTE" in each else "l" for each in opened)
+    steps = steps[:steps.rindex("r")]
+    # A load lists and reads. Looking the order through, now and then, reads once more.
+    return steps.count("l") / (steps + "r").count("lr")
 
 
 def measure_start(build, work, run, table):
