@@ -127,6 +127,7 @@ class Demonstration {
 
     void takePicture(QWidget& window, const QString& name) {
         const QString path = output_.filePath(name);
+        QCoreApplication::processEvents(); // texts that have just changed take their room
         if (window.grab().save(path)) {
             report(path);
         }

@@ -4,7 +4,6 @@
 #include "ui_StatusLine.h"
 
 #include <QFileInfo>
-#include <QLayout>
 
 namespace etiquetas {
 
@@ -82,7 +81,6 @@ void StatusLine::tell(const StatusText& text) {
     setMood(*happened_, text.mood);
     open_pdf_->setHidden(text.pdf.isEmpty());
     open_folder_->setHidden(text.pdf.isEmpty());
-    layout()->activate(); // at once: the file's name makes room for what is told behind it
 }
 
 } // namespace etiquetas
