@@ -260,13 +260,22 @@ void Desktop::tellFolder(const WorkFolder& folder) {
     }
 }
 
+// Before the start-up has told it.
+QWidget* Desktop::windowInItsSize() {
+    if (window_.isHidden()) {
+        FrmPadrao_resize(form_);
+        bridge_.pushAll();
+    }
+    return windowUnderBoxes();
+}
+
 // They have been asked for since the windows are made. What takes long is waited for behind the
 // window, with a sign by which printers can be done without.
 void Desktop::listPrinters() {
     constexpr std::chrono::milliseconds without_window{200};
     const auto goes_on = [this, soon = Deadline(without_window),
                           in_time = Deadline(print_system_patience)] {
-        return soon() || (in_time() && progress_.tell(windowUnderBoxes(), 0, 0, true));
+        return soon() || (in_time() && progress_.tell(windowInItsSize(), 0, 0, true));
     };
     printers_.take(toldPrinters(std::move(asked_printers_), goes_on));
     progress_.rest();
@@ -281,8 +290,6 @@ void Desktop::listPrinters() {
 
 void Desktop::start() {
     bridge_.run([this] {
-        FrmPadrao_resize(form_); // the window has its size, whatever it waits for
-        bridge_.pushAll();
         listPrinters();
         FrmPadrao_load(form_);
     });

@@ -71,6 +71,7 @@ class Desktop {
     void listPrinters();
     void bridgeWindows();
     [[nodiscard]] QWidget* windowUnderBoxes();
+    [[nodiscard]] QWidget* windowInItsSize();
     void guideOperator();
     void watchItemLists();
     void watchLongJobs();

@@ -5,6 +5,7 @@
 #include <QTcpServer>
 #include <QTemporaryDir>
 
+#include <cstdio>
 #include <map>
 
 namespace etiquetas::test {
@@ -35,7 +36,9 @@ class PrintServer {
     void writeSettings() const;
     [[nodiscard]] QByteArray log() const;
 
-    QTemporaryDir folder_{QStringLiteral("/tmp/print-server-XXXXXX")}; // sockets have short paths
+    // In the system's own folder, which the filters' user may enter and whose name a socket can
+    // bear.
+    QTemporaryDir folder_{QStringLiteral(P_tmpdir "/print-server-XXXXXX")};
     QProcess server_;
     std::map<QString, QTcpServer> printers_; // by queue
     bool is_running_ = false;

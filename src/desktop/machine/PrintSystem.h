@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Interface.h"
+
 #include <QImage>
 #include <QPageSize>
 #include <QSizeF>
@@ -21,15 +23,8 @@ struct Submission {
 };
 
 /// A job whose pages are the dots of a print head.
-class DotJob {
+class DotJob : public Interface {
   public:
-    DotJob() = default;
-    virtual ~DotJob() = default;
-    DotJob(const DotJob&) = delete;
-    DotJob(DotJob&&) = delete;
-    DotJob& operator=(const DotJob&) = delete;
-    DotJob& operator=(DotJob&&) = delete;
-
     /// Dots to the inch.
     [[nodiscard]] virtual int resolution() const = 0;
     /// The page that the queue has without being told another one.
@@ -42,15 +37,8 @@ class DotJob {
 };
 
 /// A job that is drawn, in any resolution.
-class DocumentJob {
+class DocumentJob : public Interface {
   public:
-    DocumentJob() = default;
-    virtual ~DocumentJob() = default;
-    DocumentJob(const DocumentJob&) = delete;
-    DocumentJob(DocumentJob&&) = delete;
-    DocumentJob& operator=(const DocumentJob&) = delete;
-    DocumentJob& operator=(DocumentJob&&) = delete;
-
     /// What the pages are drawn on, from their very corner.
     [[nodiscard]] virtual QPagedPaintDevice& pages() = 0;
     /// Hands the job over, once it is drawn to its end. Where a job asks for one sheet, it is this;
@@ -60,14 +48,8 @@ class DocumentJob {
 
 /// A queue of the machine's print system, as a job finds it. Its functions ask the print system,
 /// which may take as long as it likes; any thread may call them, one at a time.
-class PrintQueue {
+class PrintQueue : public Interface {
   public:
-    virtual ~PrintQueue() = default;
-    PrintQueue(const PrintQueue&) = delete;
-    PrintQueue(PrintQueue&&) = delete;
-    PrintQueue& operator=(const PrintQueue&) = delete;
-    PrintQueue& operator=(PrintQueue&&) = delete;
-
     /// The page that the queue has without being told another one; nothing where it tells none.
     [[nodiscard]] std::optional<QPageSize> ownPage() const;
     /// A page, bounded to the sizes that the driver takes where it takes any between two.
