@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cctype>
 #include <cstring>
+#include <cups/raster.h>
+#include <memory>
 #include <utility>
 
 namespace etiquetas::test {
@@ -125,6 +127,40 @@ QImage zplDots(const QByteArray& text, const QSize& size) {
         }
     }
     return dots;
+}
+
+static ssize_t takeFrom(void* job, unsigned char* bytes, std::size_t count) {
+    auto& rest = *static_cast<QByteArray*>(job);
+    const auto taken = std::min(static_cast<std::size_t>(rest.size()), count);
+    std::memcpy(bytes, rest.constData(), taken);
+    rest.remove(0, static_cast<qsizetype>(taken));
+    return static_cast<ssize_t>(taken);
+}
+
+// A row of bits, of which one is ink, or of bytes, of which 0 is ink.
+static bool isInk(const std::vector<uchar>& row, const cups_page_header2_t& page, int x) {
+    const auto at = static_cast<std::size_t>(x);
+    return page.cupsBitsPerPixel == 1 ? (row.at(at / 8) >> (7 - at % 8) & 1) != 0 : row.at(at) == 0;
+}
+
+std::vector<QImage> rasterPages(QByteArray job, const QSize& size) {
+    const std::unique_ptr<cups_raster_t, decltype(&cupsRasterClose)> raster(
+        cupsRasterOpenIO(takeFrom, &job, CUPS_RASTER_READ), cupsRasterClose);
+    std::vector<QImage> pages;
+    for (cups_page_header2_t page{}; cupsRasterReadHeader2(raster.get(), &page) != 0;) {
+        QImage& dots = pages.emplace_back(paper(size.width(), size.height()));
+        std::vector<uchar> row(page.cupsBytesPerLine);
+        EXPECT_LE(static_cast<int>(page.cupsWidth), size.width());
+        EXPECT_LE(static_cast<int>(page.cupsHeight), size.height());
+        for (int y = 0; y < static_cast<int>(page.cupsHeight); ++y) {
+            EXPECT_EQ(cupsRasterReadPixels(raster.get(), row.data(), page.cupsBytesPerLine),
+                      page.cupsBytesPerLine);
+            for (int x = 0; x < dots.width() && x < static_cast<int>(page.cupsWidth); ++x) {
+                dots.setPixel(x, y, isInk(row, page, x) ? 0 : 1);
+            }
+        }
+    }
+    return pages;
 }
 
 } // namespace etiquetas::test

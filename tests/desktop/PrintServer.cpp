@@ -1,9 +1,12 @@
 #include "tests/desktop/PrintServer.h"
 
+#include "tests/desktop/DriverlessPrinters.h"
+
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTcpSocket>
+#include <QtTest/QTest>
 #include <gtest/gtest.h>
 
 namespace etiquetas::test {
@@ -61,6 +64,18 @@ void PrintServer::addQueue(const QString& name, const QString& driver) {
           u"socket://127.0.0.1:%1/?waiteof=false"_s.arg(printer.serverPort()),
           driver.startsWith(u'/') ? u"-P"_s : u"-m"_s, driver, u"-o"_s,
           u"cupsSNMPSupplies=false"_s});
+}
+
+void PrintServer::addQueue(const QString& name, DriverlessPrinters& printers,
+                           const QString& attributes) {
+    QTcpServer& printer = printers_[name];
+    printer.listen(QHostAddress::LocalHost);
+    const QString address = printers.start(attributes, printer.serverPort());
+    tell(u"/usr/sbin/lpadmin"_s,
+         {u"-p"_s, name, u"-E"_s, u"-v"_s, address, u"-m"_s, u"everywhere"_s});
+    // The print system asks the printer what it can, and describes it to itself.
+    const QString description = folder_.filePath(u"root/ppd/%1.ppd"_s.arg(name));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(description); })) << log().constData();
 }
 
 QString PrintServer::tell(const QString& tool, const QStringList& arguments) {

@@ -10,6 +10,8 @@
 
 namespace etiquetas::test {
 
+class DriverlessPrinters;
+
 /// A print server of the test's own, which this process and the tools that it starts ask as long
 /// as the server lives. Each of its queues has a printer.
 class PrintServer {
@@ -23,6 +25,8 @@ class PrintServer {
     [[nodiscard]] bool isRunning() const { return is_running_; }
     /// Adds a queue with a driver, called as `lpadmin -m` calls it, or told by the path of its PPD.
     void addQueue(const QString& name, const QString& driver);
+    /// Adds a queue without a driver, whose printer has these attributes.
+    void addQueue(const QString& name, DriverlessPrinters& printers, const QString& attributes);
     /// Runs a tool of the print system, which must not fail, and tells what it tells.
     static QString tell(const QString& tool, const QStringList& arguments);
     /// What the next job of a queue sends to its printer; empty where none comes.

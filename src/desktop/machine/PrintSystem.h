@@ -32,8 +32,9 @@ class DotJob : public Interface {
     /// Adds a page of this size, or the queue's own: one bit to the dot, black where it is 0. What
     /// stands beyond the head is cut off. False where the driver can't have such a page.
     [[nodiscard]] virtual bool add(const QImage& dots, const std::optional<QPageSize>& size) = 0;
-    /// Ends the job and hands it over.
-    [[nodiscard]] virtual Submission send() = 0;
+    /// Ends the job and hands it over. Where a job asks for one sheet, it is this; without one it
+    /// is the queue's own.
+    [[nodiscard]] virtual Submission send(const std::optional<QPageSize>& sheet) = 0;
 };
 
 /// A job that is drawn, in any resolution.
@@ -52,6 +53,8 @@ class PrintQueue : public Interface {
   public:
     /// The page that the queue has without being told another one; nothing where it tells none.
     [[nodiscard]] std::optional<QPageSize> ownPage() const;
+    /// Whether the driver takes pages of any size between two.
+    [[nodiscard]] bool takesAnySize() const { return takes_any_size_; }
     /// A page, bounded to the sizes that the driver takes where it takes any between two.
     [[nodiscard]] QPageSize bounded(const QPageSize& page) const;
     /// The sheet that a page is printed on: of its size where the driver takes any between two,
@@ -61,8 +64,8 @@ class PrintQueue : public Interface {
 
     /// Dots to the inch, by which documents are measured.
     [[nodiscard]] virtual int resolution() const = 0;
-    /// A new job of dots with this title; none where the queue is no label printer's, with a head
-    /// of one colour and a known resolution.
+    /// A new job of dots with this title; none where the printer has no head of one colour and a
+    /// known resolution, or its driver takes no dots.
     [[nodiscard]] virtual std::unique_ptr<DotJob> dotJob(const QString& title) const = 0;
     /// A new job with this title that is drawn.
     [[nodiscard]] virtual std::unique_ptr<DocumentJob> documentJob(const QString& title) const = 0;

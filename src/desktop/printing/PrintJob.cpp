@@ -155,11 +155,22 @@ struct Outgoing {
     std::shared_ptr<Drawn> drawn;
 
     [[nodiscard]] Submission operator()() const {
+        const QPageSize own_page = queue->ownPage().value_or(builtInPage());
+        const auto size_of = [&](const LabelPage& page) {
+            return page.size ? queue->bounded(*page.size) : own_page;
+        };
+        const auto sheet = sheetOf(size_of);
         const auto dots = queue->dotJob(job_name);
-        return dots != nullptr && draw(*dots) ? dots->send() : sendDocument();
+        return dots != nullptr && draw(*dots) ? dots->send(sheet) : sendDocument(size_of, sheet);
     }
 
   private:
+    [[nodiscard]] std::optional<QPageSize> sheetOf(const PageSizes& size_of) const {
+        const bool is_own = std::all_of(pages.begin(), pages.end(),
+                                        [](const LabelPage& page) { return !page.size; });
+        return is_own ? queue->ownPage() : queue->sheetFor(pageOfAll(pages, size_of));
+    }
+
     // Labels keep their places; what lies beyond a page that is bounded is beyond the stock.
     [[nodiscard]] bool draw(DotJob& job) const {
         DotPages dots(job.resolution());
@@ -172,20 +183,18 @@ struct Outgoing {
                 image = dots.draw(page, own_page);
             }
             before = &page;
-            const auto size = page.size ? std::optional(queue->bounded(*page.size)) : std::nullopt;
-            return job.add(image, size);
+            const bool has_own_size = page.size && queue->takesAnySize();
+            return job.add(image,
+                           has_own_size ? std::optional(queue->bounded(*page.size)) : std::nullopt);
         });
     }
 
-    [[nodiscard]] Submission sendDocument() const {
+    [[nodiscard]] Submission sendDocument(const PageSizes& size_of,
+                                          const std::optional<QPageSize>& sheet) const {
         const auto job = queue->documentJob(job_name);
-        const QPageSize own_page = queue->ownPage().value_or(builtInPage());
-        const auto size_of = [&](const LabelPage& page) {
-            return page.size ? queue->bounded(*page.size) : own_page;
-        };
         const auto tell = [this](std::size_t labels) { *drawn = labels; };
         return drawPages(job->pages(), pages, size_of, tell)
-                   ? job->send(queue->sheetFor(pageOfAll(pages, size_of)))
+                   ? job->send(sheet)
                    : Submission{.refusal = not_begun, .waits = {}};
     }
 };

@@ -30,6 +30,23 @@ static LabelPage samplePage() {
     return page;
 }
 
+class PrintQueueTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (!server.isRunning()) {
+            GTEST_SKIP() << "no print server can be started here";
+        }
+    }
+    [[nodiscard]] QByteArray printed(const QString& driver, LabelPages pages) {
+        server.addQueue(u"Etiquetas"_s, driver);
+        JobPulse pulse;
+        PrintJob({.name = u"Etiquetas"_s}, pulse, std::move(pages)).send();
+        return server.printed(u"Etiquetas"_s);
+    }
+
+    PrintServer server;
+};
+
 struct LabelPrinter {
     const char* name;
     QString driver;
@@ -37,18 +54,12 @@ struct LabelPrinter {
     int width = 0; // dots of its head, or of the page
 };
 
-class LabelPrinterTest : public testing::TestWithParam<LabelPrinter> {};
+class LabelPrinterTest : public PrintQueueTest, public testing::WithParamInterface<LabelPrinter> {};
 
 TEST_P(LabelPrinterTest, getsTheVeryDotsOnce) {
-    PrintServer server;
-    if (!server.isRunning()) {
-        GTEST_SKIP() << "no print server can be started here";
-    }
-    server.addQueue(u"Etiquetas"_s, u"drv:///sample.drv/%1.ppd"_s.arg(GetParam().driver));
     const LabelPage page = samplePage();
-    JobPulse pulse;
-    PrintJob({.name = u"Etiquetas"_s}, pulse, {page, page}).send();
-    const QByteArray program = server.printed(u"Etiquetas"_s);
+    const QByteArray program =
+        printed(u"drv:///sample.drv/%1.ppd"_s.arg(GetParam().driver), {page, page});
     EXPECT_EQ(PrintServer::jobs(u"Etiquetas"_s), 1);
     const QImage drawn = DotPages(203).draw(page, builtInPage());
     const QImage expected = drawn.copy(0, 0, GetParam().width, drawn.height());
@@ -61,5 +72,29 @@ INSTANTIATE_TEST_SUITE_P(Drivers, LabelPrinterTest,
                                          LabelPrinter{"cpcl", u"zebracpl"_s, cpclDots, 809},
                                          LabelPrinter{"zpl", u"zebra"_s, zplDots, 1269}),
                          CaseName());
+
+TEST_F(PrintQueueTest, getsThePartOfAPageWithinTheMarginsOfItsDriver) {
+    const auto driver = QStringLiteral(ETIQUETAS_JOURNEYS "/desktop/printing/margins.ppd");
+    const LabelPage page = samplePage();
+    const QSize head(1750, 425); // 420 by 102 points at 300 dots to the inch
+    const auto got = rasterPages(printed(driver, {page}), head);
+    ASSERT_EQ(got.size(), 1U);
+    const QImage drawn = DotPages(300).draw(page, builtInPage());
+    const QImage expected = drawn.copy(QRect(QPoint(50, 75), head)); // 12 and 18 points
+    EXPECT_EQ(got[0], expected);
+}
+
+TEST_F(PrintQueueTest, getsEachPageOfAJobInItsOwnSize) {
+    LabelPage strip = samplePage();
+    LabelPage carton = strip;
+    carton.size = labelPageSize(9000, 9000);
+    const QByteArray program = printed(u"drv:///sample.drv/zebra.ppd"_s, {strip, carton, strip});
+    QList<int> bytes;
+    for (qsizetype at = 0; (at = program.indexOf("~DGR:CUPS.GRF,", at)) >= 0; ++at) {
+        bytes << program.mid(at).split(',').at(1).toInt();
+    }
+    constexpr int row = 159; // bytes
+    EXPECT_EQ(bytes, (QList{row * 375, row * 1269, row * 375}));
+}
 
 } // namespace etiquetas::test

@@ -16,26 +16,26 @@ namespace etiquetas {
 
 namespace {
 
+// A queue may have several sets of options, each named behind a slash. Jobs go to the queue.
+QString queueOf(const QPrinterInfo& printer) {
+    return printer.printerName().section(u'/', 0, 0);
+}
+
 class CupsQueue final : public PrintQueue {
   public:
     explicit CupsQueue(const QPrinterInfo& printer)
-        : PrintQueue(printer), name_(printer.printerName()), head_(PrintHead::ofQueue(name_)) {}
+        : PrintQueue(printer), name_(queueOf(printer)), head_(PrintHead::ofQueue(name_)) {}
 
     [[nodiscard]] int resolution() const override { return document_resolution; }
     [[nodiscard]] std::unique_ptr<DotJob> dotJob(const QString& title) const override {
-        return head_ ? std::make_unique<RasterJob>(document(title), *head_) : nullptr;
+        return head_ ? std::make_unique<RasterJob>(QueueDocument(name_, title), *head_) : nullptr;
     }
     [[nodiscard]] std::unique_ptr<DocumentJob> documentJob(const QString& title) const override {
-        return std::make_unique<PdfJob>(document(title), document_resolution);
+        return std::make_unique<PdfJob>(QueueDocument(name_, title), document_resolution);
     }
 
   private:
     static constexpr int document_resolution = 1200; // that of the toolkit's own documents
-
-    // A queue may have several sets of options, each named behind a slash. Jobs go to the queue.
-    [[nodiscard]] QueueDocument document(const QString& title) const {
-        return {name_.section(u'/', 0, 0), title};
-    }
 
     QString name_;
     std::optional<PrintHead> head_;

@@ -2,10 +2,10 @@
 
 #include "desktop/machine/cups/QueueState.h"
 
-#include <algorithm>
+#include <QPainter>
+
 #include <initializer_list>
 #include <utility>
-#include <vector>
 
 namespace etiquetas {
 
@@ -13,26 +13,30 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int byte_bits = 8;
+// What stands on the head's part of a page; beyond the dots there is paper.
+QImage onHead(const QImage& dots, const RasterPage& page) {
+    const QSize size(static_cast<int>(page.header.cupsWidth),
+                     static_cast<int>(page.header.cupsHeight));
+    if (page.corner.isNull() && dots.size() == size) {
+        return dots;
+    }
+    QImage part(size, QImage::Format_Mono);
+    part.setColorTable(dots.colorTable());
+    constexpr unsigned paper = 1; // as in the dots
+    part.fill(paper);
+    QPainter(&part).drawImage(-page.corner, dots);
+    return part;
+}
 
-// A row as the driver counts its colours: in K a bit is ink, in W it is paper. What the page has no
-// dots for is paper.
-std::vector<uchar> driverRow(const QImage& dots, int y, const cups_page_header2_t& header) {
-    const bool bit_is_ink = header.cupsColorSpace == CUPS_CSPACE_K;
-    constexpr uchar all_bits = 0xFF;
-    std::vector<uchar> row(header.cupsBytesPerLine, bit_is_ink ? uchar{0} : all_bits);
-    if (y >= dots.height()) {
-        return row;
+// As the driver counts its tones: in K the most is ink, else it is paper.
+QImage inTonesOf(const cups_page_header2_t& header, QImage page) {
+    if (header.cupsBitsPerPixel > 1) {
+        page.convertTo(QImage::Format_Grayscale8);
     }
-    const int width = std::min(dots.width(), static_cast<int>(header.cupsWidth));
-    const uchar* const bits = dots.constScanLine(y);
-    for (int x = 0; x < width; x += byte_bits) {
-        const int absent = std::max(0, x + byte_bits - width);
-        const auto used = static_cast<uchar>(all_bits << absent);
-        const auto ink = static_cast<uchar>(~bits[x / byte_bits] & used);
-        row[static_cast<std::size_t>(x / byte_bits)] = bit_is_ink ? ink : static_cast<uchar>(~ink);
+    if (header.cupsColorSpace == CUPS_CSPACE_K) {
+        page.invertPixels();
     }
-    return row;
+    return page;
 }
 
 ssize_t appendTo(void* bytes, unsigned char* from, std::size_t length) {
@@ -113,33 +117,37 @@ void RasterJob::CloseRaster::operator()(cups_raster_t* raster) const {
 
 RasterJob::RasterJob(QueueDocument document, PrintHead head)
     : head_(std::move(head)), document_(std::move(document)),
-      raster_(cupsRasterOpenIO(appendTo, &document_.bytes(), CUPS_RASTER_WRITE_COMPRESSED)) {}
+      raster_(cupsRasterOpenIO(appendTo, &document_.bytes(), head_.format().mode)) {}
 
 void RasterJob::describe(const std::optional<QPageSize>& size) {
-    if (!header_ || size_ != size) {
-        header_ = head_.pageHeader(size);
+    if (!page_ || size_ != size) {
+        page_ = head_.page(size);
         size_ = size;
     }
 }
 
 bool RasterJob::add(const QImage& dots, const std::optional<QPageSize>& size) {
     describe(size);
-    if (raster_ == nullptr || !header_ || cupsRasterWriteHeader2(raster_.get(), &*header_) == 0) {
+    if (raster_ == nullptr || !page_ ||
+        cupsRasterWriteHeader2(raster_.get(), &page_->header) == 0) {
         return false;
     }
-    for (int y = 0; y < static_cast<int>(header_->cupsHeight); ++y) {
-        std::vector<uchar> row = driverRow(dots, y, *header_);
-        const auto length = static_cast<unsigned>(row.size());
-        if (cupsRasterWritePixels(raster_.get(), row.data(), length) != length) {
+    QImage page = inTonesOf(page_->header, onHead(dots, *page_));
+    const unsigned length = page_->header.cupsBytesPerLine;
+    for (int y = 0; y < page.height(); ++y) {
+        if (cupsRasterWritePixels(raster_.get(), page.scanLine(y), length) != length) {
             return false;
         }
     }
     return true;
 }
 
-Submission RasterJob::send() {
+Submission RasterJob::send(const std::optional<QPageSize>& sheet) {
     raster_.reset();
-    return document_.send("application/vnd.cups-raster");
+    if (sheet && head_.isDriverless()) {
+        document_.takeSheet(sheet->key());
+    }
+    return document_.send(head_.format().type);
 }
 
 PdfJob::PdfJob(QueueDocument document, int resolution)

@@ -43,8 +43,10 @@ class QueueDocument {
     QByteArray sheet_;
 };
 
-/// A job that is written as the driver of a print head reads it (the print system's raster), so
-/// that no filter has anything left to decide.
+/// A job that is written as the driver of a print head reads it, or its printer where it needs no
+/// driver, so that no filter has anything left to decide. Measured: of the filters that draw pages
+/// of PDF at 203 dots to the inch, with one bit to the dot, one strews ink over white paper and one
+/// draws all a little smaller, whatever stands on the page.
 class RasterJob final : public DotJob {
   public:
     RasterJob(QueueDocument document, PrintHead head);
@@ -52,7 +54,7 @@ class RasterJob final : public DotJob {
     [[nodiscard]] int resolution() const override { return head_.resolution(); }
     [[nodiscard]] QPageSize ownPage() const override { return head_.ownPage(); }
     [[nodiscard]] bool add(const QImage& dots, const std::optional<QPageSize>& size) override;
-    [[nodiscard]] Submission send() override;
+    [[nodiscard]] Submission send(const std::optional<QPageSize>& sheet) override;
 
   private:
     struct CloseRaster {
@@ -62,7 +64,7 @@ class RasterJob final : public DotJob {
     void describe(const std::optional<QPageSize>& size);
 
     PrintHead head_;
-    std::optional<cups_page_header2_t> header_; // of pages of this size
+    std::optional<RasterPage> page_; // of this size
     std::optional<QPageSize> size_;
     QueueDocument document_;
     std::unique_ptr<cups_raster_t, CloseRaster> raster_; // closed before the document

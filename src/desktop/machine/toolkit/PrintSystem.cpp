@@ -51,7 +51,7 @@ class ImageJob final : public DotJob {
         }
         return begun;
     }
-    [[nodiscard]] Submission send() override {
+    [[nodiscard]] Submission send(const std::optional<QPageSize>& /*sheet*/) override {
         painter_.end();
         return {};
     }
