@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-folders=(src tests demo bench fuzz)
+folders=(src tests demo bench fuzz tools)
 
 # The project's files of C++ that git knows or would take.
 all_files() {

@@ -33,11 +33,12 @@ if [ "$purpose" = test ]; then
         xvfb xauth                # a display for the real window
         strace                    # system calls that fail
         cups                      # a print server, and label drivers
+        cups-ipp-utils dbus-daemon # printers without a driver, and the bus that they ask for
     )
 elif [ "$purpose" = check ]; then
     packages+=(
         clang clang-format clang-tidy # the other compiler, form and style
-        libgtest-dev libgmock-dev libbenchmark-dev libzxing-dev libzint-dev
+        libgtest-dev libgmock-dev libbenchmark-dev libzxing-dev libzint-dev pkgconf libzbar-dev
     )
 elif [ "$purpose" = package ]; then
     packages+=(

@@ -209,8 +209,7 @@ QImage pageBy(const QString& command, const QString& pdf, std::size_t page, int 
 }
 
 LabelPage withoutTexts(LabelPage page) {
-    std::erase_if(page.marks,
-                  [](const Mark& mark) { return std::holds_alternative<TextMark>(mark); });
+    page.marks.removeIf([](const Mark& mark) { return std::holds_alternative<TextMark>(mark); });
     return page;
 }
 
