@@ -120,7 +120,7 @@ class QueuesTest : public testing::Test, protected SampleWindow {
         choosePrinter(u"PDF"_s);
         loadLabels(labels);
         const QString file = writtenBy(u"cmd_printacessorio"_s);
-        const Arrived arrived = inFile(file, labels, labels.page);
+        Arrived arrived = inFile(file, labels, labels.page);
         QFile::remove(file);
         return arrived;
     }

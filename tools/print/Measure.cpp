@@ -99,7 +99,7 @@ class Press {
 
     /// Writes the job into a file and tells its path.
     QString writeJob() {
-        const QString path = folder_.filePath(u"job.pdf"_s);
+        QString path = folder_.filePath(u"job.pdf"_s);
         surface.delivery().save(job, path);
         return path;
     }

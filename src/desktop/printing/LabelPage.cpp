@@ -3,6 +3,8 @@
 #include "desktop/printing/ShapedTexts.h"
 #include "desktop/printing/WholeDots.h"
 
+#include <QPagedPaintDevice>
+
 #include <numeric>
 
 namespace etiquetas {
@@ -57,6 +59,12 @@ void drawMark(QPainter& painter, const Other& mark, const ShapedTexts& /*texts*/
     drawMark(painter, mark);
 }
 
+// Orientation stays portrait: a page wider than high is not turned then.
+bool startPage(QPagedPaintDevice& device, const QPageSize& size, QPainter& painter) {
+    device.setPageSize(size);
+    return painter.isActive() ? device.newPage() : painter.begin(&device);
+}
+
 } // namespace
 
 QPageSize labelPageSize(int width, int height) {
@@ -85,6 +93,24 @@ void draw(QPainter& painter, const LabelPage& page, ShapedTexts& texts) {
     for (const Mark& mark : page.marks) {
         std::visit([&](const auto& kind) { drawMark(painter, kind, texts); }, mark);
     }
+}
+
+bool drawPages(QPagedPaintDevice& device, const LabelPages& pages, const PageSizes& size_of,
+               const std::function<void(std::size_t labels)>& tell) {
+    QPainter painter;
+    ShapedTexts texts;
+    std::size_t labels = 0;
+    for (const LabelPage& page : pages) {
+        tell(labels);
+        if (!startPage(device, size_of(page), painter)) {
+            return false;
+        }
+        const double dots = device.logicalDpiX() / millimetres_per_inch;
+        painter.setWorldTransform(QTransform::fromScale(dots, dots));
+        draw(painter, page, texts);
+        labels += page.labels;
+    }
+    return true;
 }
 
 } // namespace etiquetas

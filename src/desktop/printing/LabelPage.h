@@ -11,9 +11,12 @@
 #include <QString>
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <variant>
 #include <vector>
+
+class QPagedPaintDevice;
 
 namespace etiquetas {
 
@@ -94,5 +97,14 @@ void draw(QPainter& painter, const LabelPage& page);
 
 /// The same for one of several pages, which share the texts that have been shaped.
 void draw(QPainter& painter, const LabelPage& page, ShapedTexts& texts);
+
+/// The size that a page is drawn in.
+using PageSizes = std::function<QPageSize(const LabelPage& page)>;
+
+/// Draws pages on a device, each in its size, and tells before each one how many labels have been
+/// drawn. False where the device takes no page.
+[[nodiscard]] bool drawPages(QPagedPaintDevice& device, const LabelPages& pages,
+                             const PageSizes& size_of,
+                             const std::function<void(std::size_t labels)>& tell);
 
 } // namespace etiquetas
