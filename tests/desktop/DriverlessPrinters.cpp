@@ -26,16 +26,15 @@ static constexpr auto own_bus = "driverless"_L1;
 static constexpr auto printer_program = "/usr/sbin/ippeveprinter"_L1;
 
 DriverlessPrinters::DriverlessPrinters() {
-    const QString address = u"unix:path="_s + folder_.filePath(u"bus"_s);
     writeFile(u"bus.conf"_s,
               u"<busconfig><type>system</type><listen>%1</listen><auth>EXTERNAL</auth>"
               "<policy context='default'><allow user='*'/><allow own='*'/>"
               "<allow send_destination='*'/><allow receive_sender='*'/></policy>"
-              "</busconfig>"_s.arg(address));
+              "</busconfig>"_s.arg(busAddress()));
     bus_.start(u"dbus-daemon"_s, {u"--nofork"_s, u"--nopidfile"_s, u"--print-address"_s,
                                   u"--config-file="_s + folder_.filePath(u"bus.conf"_s)});
     if (bus_.waitForReadyRead()) {
-        auto bus = QDBusConnection::connectToBus(address, own_bus);
+        auto bus = QDBusConnection::connectToBus(busAddress(), own_bus);
         bus.registerVirtualObject(u"/"_s, &names_, QDBusConnection::SubPath);
         EXPECT_TRUE(bus.registerService(u"org.freedesktop.Avahi"_s));
     }
@@ -108,7 +107,7 @@ QString DriverlessPrinters::start(const QString& attributes, quint16 receiver) {
     writeFile(settings, attributesOfAll() + attributes);
     const auto& printer = printers_.emplace_back(std::make_unique<QProcess>());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, u"unix:path="_s + folder_.filePath(u"bus"_s));
+    environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, busAddress());
     printer->setProcessEnvironment(environment);
     printer->start(printer_program,
                    {u"-r"_s, u"off"_s, u"-n"_s, u"localhost"_s, u"-p"_s, QString::number(port),
@@ -117,6 +116,10 @@ QString DriverlessPrinters::start(const QString& attributes, quint16 receiver) {
     EXPECT_TRUE(QTest::qWaitFor([port] { return answers(port); }))
         << printer->readAllStandardError().constData();
     return u"ipp://localhost:%1/ipp/print"_s.arg(port);
+}
+
+QString DriverlessPrinters::busAddress() const {
+    return u"unix:path="_s + folder_.filePath(u"bus"_s);
 }
 
 void DriverlessPrinters::writeFile(const QString& name, const QString& text) const {

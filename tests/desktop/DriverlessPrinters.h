@@ -36,6 +36,7 @@ class DriverlessPrinters {
     QString start(const QString& attributes, quint16 receiver);
 
   private:
+    [[nodiscard]] QString busAddress() const;
     void writeFile(const QString& name, const QString& text) const;
 
     QTemporaryDir folder_{QStringLiteral(P_tmpdir "/driverless-XXXXXX")};

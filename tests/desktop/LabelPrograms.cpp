@@ -148,14 +148,17 @@ std::vector<QImage> rasterPages(QByteArray job, const QSize& size) {
         cupsRasterOpenIO(takeFrom, &job, CUPS_RASTER_READ), cupsRasterClose);
     std::vector<QImage> pages;
     for (cups_page_header2_t page{}; cupsRasterReadHeader2(raster.get(), &page) != 0;) {
+        const QSize got(static_cast<int>(page.cupsWidth), static_cast<int>(page.cupsHeight));
+        if (got != got.boundedTo(size)) {
+            ADD_FAILURE() << "a page of " << got.width() << " by " << got.height() << " dots";
+            break;
+        }
         QImage& dots = pages.emplace_back(paper(size.width(), size.height()));
         std::vector<uchar> row(page.cupsBytesPerLine);
-        EXPECT_LE(static_cast<int>(page.cupsWidth), size.width());
-        EXPECT_LE(static_cast<int>(page.cupsHeight), size.height());
-        for (int y = 0; y < static_cast<int>(page.cupsHeight); ++y) {
+        for (int y = 0; y < got.height(); ++y) {
             EXPECT_EQ(cupsRasterReadPixels(raster.get(), row.data(), page.cupsBytesPerLine),
                       page.cupsBytesPerLine);
-            for (int x = 0; x < dots.width() && x < static_cast<int>(page.cupsWidth); ++x) {
+            for (int x = 0; x < got.width(); ++x) {
                 dots.setPixel(x, y, isInk(row, page, x) ? 0 : 1);
             }
         }
